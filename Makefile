@@ -1,0 +1,25 @@
+# The two commands of the README: `make run` and `make test`.
+# Both install whatever Debian packages are missing, then configure and build with CMake and Ninja.
+BUILD_DIR ?= build
+JOBS ?= $(shell nproc)
+
+.PHONY: run test build deps bench clean
+
+run: build
+	@scripts/run.sh $(BUILD_DIR)
+
+test: build
+	cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
+
+bench: build
+	$(BUILD_DIR)/bin/swale-bench --benchmark_min_time=0.2
+
+build: deps
+	@if [ ! -f $(BUILD_DIR)/build.ninja ]; then cmake -S . -B $(BUILD_DIR) -G Ninja; fi
+	cmake --build $(BUILD_DIR) -j $(JOBS)
+
+deps:
+	@scripts/install-deps.sh
+
+clean:
+	rm -rf $(BUILD_DIR)
