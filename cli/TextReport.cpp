@@ -1,0 +1,97 @@
+#include "TextReport.h"
+
+#include "InputTable.h"
+#include "OutputTable.h"
+
+namespace {
+constexpr size_t kCaptionWidth = 52;
+constexpr size_t kValueWidth = 14;
+
+std::string padRight(std::string text, size_t width, char fill)
+{
+    if (text.size() < width)
+        text.append(width - text.size(), fill);
+    return text;
+}
+
+std::string padLeft(const std::string &text, size_t width)
+{
+    return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
+}
+
+const char *optionCaption(int index, const char *const *captions, int count)
+{
+    return index >= 1 && index <= count ? captions[index] : "(not chosen)";
+}
+
+std::string headerLines(const SwaleProject &project)
+{
+    std::string out;
+    for (int box = 1; box <= 3; ++box) {
+        out += padRight(std::string(inputBox(box).caption) + ":", 18, ' ')
+                + project.inputText[static_cast<size_t>(box)] + "\n";
+    }
+    out += padRight("Solution method:", 18, ' ')
+            + optionCaption(project.solutionMethod, kSolutionMethodCaptions.data(),
+                            kSolutionMethodCount)
+            + "\n";
+    out += padRight("Channel flow:", 18, ' ')
+            + optionCaption(project.channelFlowMethod, kChannelFlowMethodCaptions.data(),
+                            kChannelFlowMethodCount)
+            + "\n";
+    return out;
+}
+
+std::string resultLine(const SwaleProject &project, const CalculationOutcome &outcome, int box)
+{
+    const std::string caption =
+            outputCaption(box, project.solutionMethod, project.channelFlowMethod);
+    std::string line = "  " + padRight(caption + " ", kCaptionWidth, '.') + " "
+            + padLeft(outcome.results[static_cast<size_t>(box)], kValueWidth);
+    const std::string unit = outputBox(box).unit;
+    if (!unit.empty())
+        line += "  " + unit;
+    return line + "\n";
+}
+} // namespace
+
+std::string resultsReport(const SwaleProject &project, const CalculationOutcome &outcome)
+{
+    std::string out = headerLines(project);
+    for (int group = 1; group < static_cast<int>(kOutputGroups.size()); ++group) {
+        std::string lines;
+        for (int box = kOutputGroups[group].first; box <= kOutputGroups[group].last; ++box) {
+            if (isOutputFilled(box, project.solutionMethod))
+                lines += resultLine(project, outcome, box);
+        }
+        if (lines.empty())
+            continue;
+        out += "\n";
+        out += resultGroupTitle(group, project.solutionMethod, project.channelFlowMethod);
+        out += "\n" + lines;
+    }
+    return out;
+}
+
+std::string faultReport(const CalculationOutcome &outcome)
+{
+    if (outcome.status == CalculationOutcome::Status::Invalid) {
+        const ValidationFault &fault = outcome.fault;
+        std::string out = "Error: " + fault.message + "\n";
+        if (fault.place == FaultPlace::InputBox)
+            out += "  in input box " + std::to_string(fault.input) + ", \""
+                    + inputBox(fault.input).caption + "\"\n";
+        else if (fault.place == FaultPlace::GridCell)
+            out += "  in the rating curve, row " + std::to_string(fault.row) + ", column "
+                    + std::to_string(fault.col) + "\n";
+        return out;
+    }
+    std::string out;
+    for (const std::string &message : outcome.failureMessages) {
+        if (!message.empty())
+            out += "Error: " + message + "\n";
+    }
+    if (out.empty())
+        out = "Error: the calculation failed without a message\n";
+    return out;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Calculate.h"
+#include "SwaleProject.h"
+
+#include <string>
+
+// The readable output of swale-calc.
+
+// The job lines, the chosen options, then each result group with the boxes the solution method
+// fills: caption, value and unit, as on the Results page.
+std::string resultsReport(const SwaleProject &project, const CalculationOutcome &outcome);
+
+// What the window would show for a failed validation or calculation: the message(s), and for a
+// validation fault the box or rating-curve cell that would receive the focus.
+std::string faultReport(const CalculationOutcome &outcome);

@@ -1,0 +1,60 @@
+// swale-calc: loads a project file and runs the Calculate command on it, without the window.
+
+#include "CommandLine.h"
+#include "JsonOutput.h"
+#include "ProjectFile.h"
+#include "TextReport.h"
+
+#include "Calculate.h"
+
+#include <iostream>
+
+namespace {
+int exitCodeOf(const CalculationOutcome &outcome)
+{
+    switch (outcome.status) {
+    case CalculationOutcome::Status::Ok:
+        return ExitResults;
+    case CalculationOutcome::Status::Invalid:
+        return ExitInvalidInput;
+    case CalculationOutcome::Status::Failed:
+        break;
+    }
+    return ExitCalculationFailed;
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    CommandLine commandLine;
+    std::string error;
+    if (!parseCommandLine(std::vector<std::string>(argv + 1, argv + argc), commandLine, error)) {
+        std::cerr << "swale-calc: " << error << "\n\n" << usageText();
+        return ExitUsage;
+    }
+    if (commandLine.help) {
+        std::cout << usageText();
+        return ExitResults;
+    }
+
+    SwaleProject project;
+    const ProjectFileResult load = loadProject(commandLine.projectPath, project);
+    if (!load.ok) {
+        const std::string message =
+                "Unable to open file: " + commandLine.projectPath + " (" + load.error + ")";
+        if (commandLine.json)
+            std::cout << jsonUnreadable(message);
+        else
+            std::cerr << "Error: " << message << "\n";
+        return ExitFileNotLoaded;
+    }
+
+    const CalculationOutcome outcome = Calculate(project);
+    if (commandLine.json)
+        std::cout << jsonOutcome(outcome);
+    else if (outcome.status == CalculationOutcome::Status::Ok)
+        std::cout << resultsReport(project, outcome);
+    else
+        std::cerr << faultReport(outcome);
+    return exitCodeOf(outcome);
+}
