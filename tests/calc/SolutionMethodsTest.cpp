@@ -1,0 +1,213 @@
+#include "ProjectFixtures.h"
+#include "SolutionMethods.h"
+#include "Validation.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+// Expected values come from an independent evaluation of the formulas at 30 digits (Manning's
+// equation solved by a secant search) for the fixture swale: B 4 ft, 3:1 sides, Sc 0.01,
+// n 0.03, A 2 ac, C 0.5, ID 3 in/hr (Qp 3 cfs), D 60 min, Tc 10 min, Kvu 2 ft/day, FSi 2,
+// f 35 percent, hb 3 ft.
+
+namespace {
+SwaleInputData validated(const SwaleProject &project)
+{
+    SwaleInputData data;
+    ValidationFault fault;
+    EXPECT_TRUE(ValidateInputData(project, data, fault)) << fault.message;
+    return data;
+}
+
+constexpr double kDepth = 0.306334559101491; // ft, normal depth at 3 cfs
+constexpr double kRelative = 1e-8;
+} // namespace
+
+TEST(CalculateEfficiency, MatchesTheIndependentEvaluation)
+{
+    SwaleInputData data = validated(validProject(2));
+    CalcContext context;
+    ASSERT_TRUE(CalculateEfficiency(data, context));
+    EXPECT_NEAR(data.NormalDepth, kDepth, kDepth * kRelative);
+    EXPECT_NEAR(data.TopWidth, 5.83800735460895, 1e-7);
+    EXPECT_NEAR(data.ErosionSafetyFactor, 2.51143470451, 1e-8);
+    EXPECT_DOUBLE_EQ(data.DesignInfiltrationRate, 1.0);
+    EXPECT_NEAR(data.EffectiveBottomArea, 2374.97194623, 1e-5);
+    EXPECT_NEAR(data.InfiltrationAtNormalDepth, 0.0274881012295, 1e-10);
+    EXPECT_NEAR(data.MaxInfiltrationVolume, 115.298906022, 1e-6);
+    EXPECT_NEAR(data.SoilStorageVolume, 2451.96308894, 1e-5);
+    EXPECT_NEAR(data.ResultEfficiency, 1.06758246317, 1e-8);
+    EXPECT_EQ(data.ResultLength, 400.0);
+}
+
+TEST(CalculateEfficiency, LimitsByPeakOrSoilStorageWithoutCapping)
+{
+    struct Case { const char *name; const char *L, *Kvu, *hb, *D, *Tc; };
+    const Case cases[] = {
+        { "soil takes the whole peak: Vm = Vr", "400", "2000", "3", "60", "10" },
+        { "soil storage limits: e = Vs / Vr", "400", "2000", "0.01", "60", "10" },
+        { "short storm, long Tc: above 100 percent", "400", "30", "30", "5", "60" },
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        SwaleProject p = validProject(2);
+        p.inputText[4] = c.L;
+        p.inputText[20] = c.Kvu;
+        p.inputText[23] = c.hb;
+        p.inputText[13] = c.D;
+        p.inputText[14] = c.Tc;
+        SwaleInputData data = validated(p);
+        CalcContext context;
+        ASSERT_TRUE(CalculateEfficiency(data, context));
+        const double Vr = data.RunoffVolume;
+        if (data.InfiltrationAtNormalDepth > data.PeakFlowRate) {
+            EXPECT_EQ(data.MaxInfiltrationVolume, Vr);
+        }
+        const double limiting = std::min(data.SoilStorageVolume, data.MaxInfiltrationVolume);
+        EXPECT_NEAR(data.ResultEfficiency, limiting / Vr * 100, 1e-9);
+    }
+    // The third case: q below Qp on a hydrograph whose ramps outlast the storm.
+    SwaleProject p = validProject(2);
+    p.inputText[20] = "30";
+    p.inputText[23] = "30";
+    p.inputText[13] = "5";
+    p.inputText[14] = "60";
+    SwaleInputData data = validated(p);
+    CalcContext context;
+    ASSERT_TRUE(CalculateEfficiency(data, context));
+    EXPECT_LE(data.InfiltrationAtNormalDepth, data.PeakFlowRate);
+    EXPECT_GT(data.ResultEfficiency, 100.0);
+}
+
+TEST(CalculateRequiredLength, MatchesTheIndependentEvaluation)
+{
+    SwaleInputData data = validated(validProject(1));
+    CalcContext context;
+    ASSERT_TRUE(CalculateRequiredLength(data, context));
+    EXPECT_NEAR(data.LargerRoot, 18.6884064384, 1e-8);
+    EXPECT_NEAR(data.SmallerRoot, 2.31159356163, 1e-9);
+    EXPECT_NEAR(data.InfiltrationAtNormalDepth, 2.31159356163, 1e-9);
+    EXPECT_DOUBLE_EQ(data.MaxInfiltrationVolume, 10800 * 0.8);
+    EXPECT_NEAR(data.EffectiveBottomArea, 199721.683725, 1e-3);
+    EXPECT_NEAR(data.ResultLength, 33637.733539, 1e-4); // infiltration area governs
+    EXPECT_NEAR(data.SoilStorageVolume, 206196.202583, 1e-3);
+    EXPECT_EQ(data.ResultEfficiency, 80.0); // the desired efficiency, unchanged
+    EXPECT_DOUBLE_EQ(data.RunoffDepth, 1.5);
+}
+
+TEST(CalculateRequiredLength, UnderGivenFlowDividesVolumeByDuration)
+{
+    // Qp 4 cfs for 30 min: Vr 7200 ft3, Vm 5760 ft3, Qip = 5760 / 1800 = 3.2 cfs.
+    SwaleInputData data = validated(validProject(1, 2));
+    CalcContext context;
+    ASSERT_TRUE(CalculateRequiredLength(data, context));
+    EXPECT_NEAR(data.NormalDepth, 0.360409589943, 1e-9);
+    EXPECT_DOUBLE_EQ(data.InfiltrationAtNormalDepth, 3.2);
+    EXPECT_NEAR(data.ResultLength, 44029.4712812, 1e-4);
+    EXPECT_EQ(data.RunoffDepth, 0.0);
+    EXPECT_EQ(data.LargerRoot, 0.0); // no roots under a given flow
+}
+
+TEST(CalculateRequiredLength, SoilStorageGovernsWhenTheWaterTableIsNear)
+{
+    SwaleProject p = validProject(1, 2);
+    p.inputText[20] = "500"; // fast soil: little area needed
+    p.inputText[23] = "0.05"; // but a shallow water table
+    SwaleInputData data = validated(p);
+    CalcContext context;
+    ASSERT_TRUE(CalculateRequiredLength(data, context));
+    const double L2 = data.MaxInfiltrationVolume / (0.05 * data.TopWidth * 35 / 100);
+    EXPECT_NEAR(data.ResultLength, L2, 1e-9 * L2);
+    EXPECT_NEAR(data.SoilStorageVolume, data.MaxInfiltrationVolume, 1e-6);
+}
+
+TEST(CalculateRequiredLength, ANegativeDiscriminantIsAnArithmeticFault)
+{
+    // Asking the hydrograph for five times its own volume has no real infiltration rate.
+    SwaleProject p = validProject(1);
+    p.inputText[9] = "500";
+    SwaleInputData data = validated(p);
+    CalcContext context;
+    EXPECT_FALSE(CalculateRequiredLength(data, context));
+    EXPECT_EQ(context.CalculationErrorMessage,
+              "Arithmetic error in the calculation: square root of a negative number");
+}
+
+TEST(CalculateInletChannel, InterpolatesTheRatingCurveAtTheNormalDepth)
+{
+    SwaleInputData data = validated(validProject(3));
+    CalcContext context;
+    ASSERT_TRUE(CalculateInletChannel(data, context));
+    EXPECT_NEAR(data.InletDischarge, 2.06334559101, 1e-9);
+    EXPECT_NEAR(data.InletVolume, 7814.57247667, 1e-5);
+    EXPECT_NEAR(data.ResultEfficiency, 72.3571525618, 1e-8);
+    EXPECT_EQ(data.InfiltrationAtNormalDepth, 0.0);
+}
+
+TEST(CalculateInletChannel, UsesTheClippedHydrographEvenAboveThePeak)
+{
+    // An inlet that takes 10 cfs at 12 in while the peak is 3 cfs: q > Qp is not tested.
+    SwaleProject p = validProject(3);
+    p.clearRatingCurve();
+    setRatingCurve(p, { { "0", "0" }, { "1", "50" }, { "12", "60" } });
+    SwaleInputData data = validated(p);
+    CalcContext context;
+    ASSERT_TRUE(CalculateInletChannel(data, context));
+    const double q = data.InletDischarge;
+    EXPECT_GT(q, data.PeakFlowRate);
+    EXPECT_NEAR(data.InletVolume, q * (70 - q * 10 / 3) * 60, 1e-6);
+}
+
+TEST(CalculateInletChannel, FailsWithItsOwnMessageBeyondTheCurve)
+{
+    SwaleProject p = validProject(3);
+    p.clearRatingCurve();
+    setRatingCurve(p, { { "0", "0" }, { "2", "0.5" } }); // 2 in, the depth is 3.7 in
+    SwaleInputData data = validated(p);
+    CalcContext context;
+    EXPECT_FALSE(CalculateInletChannel(data, context));
+    ASSERT_EQ(context.shownMessages.size(), 1u);
+    // The depth is printed with fifteen digits, as the search found it.
+    const std::string &message = context.shownMessages[0];
+    const std::string head = "The normal depth of flow (";
+    const std::string tail = " ft) exceeds the rating curve data.";
+    ASSERT_EQ(message.substr(0, head.size()), head);
+    ASSERT_EQ(message.substr(message.size() - tail.size()), tail);
+    const std::string depth = message.substr(head.size(), message.size() - head.size() - tail.size());
+    EXPECT_EQ(depth.size(), 17u); // "0." and fifteen significant digits
+    EXPECT_NEAR(std::stod(depth), kDepth, kDepth * kRelative);
+    EXPECT_EQ(context.CalculationErrorMessage, "");
+}
+
+TEST(CalculateImperviousChannel, ReportsHydraulicsOnly)
+{
+    SwaleInputData data = validated(validProject(4, 2));
+    data.DesignInfiltrationRate = 9; // whatever was there is set to zero
+    CalcContext context;
+    ASSERT_TRUE(CalculateImperviousChannel(data, context));
+    EXPECT_NEAR(data.NormalDepth, 0.360409589943, 1e-9);
+    EXPECT_EQ(data.RunoffDepth, 0.0);
+    for (double v : { data.DesignInfiltrationRate, data.EffectiveBottomArea,
+                      data.InfiltrationAtNormalDepth, data.MaxInfiltrationVolume,
+                      data.SoilStorageVolume, data.ResultEfficiency })
+        EXPECT_EQ(v, 0.0);
+}
+
+TEST(SolutionMethods, StopWhenTheSearchFails)
+{
+    for (int method = 1; method <= 4; ++method) {
+        SCOPED_TRACE(method);
+        SwaleInputData data = validated(validProject(method));
+        CalcContext context;
+        context.settings.NormalDepthMaxIterations = 3;
+        EXPECT_FALSE(runSolutionMethod(data, context));
+        EXPECT_EQ(context.CalculationErrorMessage,
+                  "Unable to find Normal Depth of Flow at tolerance of 1E-07 and Maximum Iterations of 3");
+        EXPECT_EQ(data.ResultLength, 0.0);
+        EXPECT_EQ(data.ResultEfficiency, 0.0);
+    }
+    SwaleInputData none;
+    CalcContext context;
+    EXPECT_FALSE(runSolutionMethod(none, context));
+}
