@@ -1,0 +1,111 @@
+#pragma once
+
+// The report printing of the program: Print, Page Setup and Export PDF for the window, and the
+// PDF writer that the command-line tool shares.
+//
+// How the window uses it:
+//   - Derive the window's print prompts from SystemPrintDialogs (real print and page-setup
+//     dialogs) and implement ShowErrorMessage (forward to the window's own, which beeps first)
+//     and askPdfFileName (the window's Save dialog, filter "PDF Files (*.pdf)"). Tests derive
+//     from PrintPrompts instead and script every answer.
+//   - Own one PrintRoutine for the window's life, made with those prompts and the program folder
+//     (GlobalData::programFolder), so that Page Setup choices last until the program ends.
+//   - Print (mnuFile_Print, toolbar "Print"), only while the results are valid:
+//         printRoutine.printReport(project, currentFilePath);
+//     With no printer installed it shows "Unable to establish connection with printer." titled
+//     "Error" (style 48) and prints nothing; so it does when the chosen printer cannot be opened.
+//   - Page Setup (mnuFile_PrintSetup): printRoutine.pageSetup();
+//   - Export PDF ("Export P&DF..." after Print, enabled with Print):
+//         printRoutine.exportPdf(project, currentFilePath, dataFolder);
+//     It asks for a file name (suggesting the project's name with ".pdf") and writes the report;
+//     a file that cannot be written is reported as "Error writing to file:" + CR + path.
+//   `project` is the document as the window holds it (SwaleProject: input texts as typed, chosen
+//   options, rating-curve cells, results flag and output texts); `currentFilePath` is "" for an
+//   untitled project.
+//
+// Margins: Margins.ini in the program folder is read at each print and export (ReadPageMargins);
+// margins chosen in Page Setup replace it for the rest of the run. Margin 1 is the left edge,
+// 2 the top, 3 the bottom and 4 the right. Paper defaults to US Letter, portrait.
+
+#include "PageMargins.h"
+#include "PageSetupDialog.h"
+#include "SwaleProject.h"
+
+#include <QMarginsF>
+#include <QString>
+
+class QPrinter;
+class QWidget;
+
+extern const char *const kNoPrinterMessage; // "Unable to establish connection with printer."
+
+// The dialogs and messages of the print commands, behind one interface so that tests run them
+// headless with scripted answers.
+class PrintPrompts
+{
+public:
+    virtual ~PrintPrompts() = default;
+    // The window's message procedure: beep, then a modal box; style 48 is exclamation and OK.
+    virtual int ShowErrorMessage(const QString &message, int style, const QString &title) = 0;
+    // The system print dialog on `printer`; false when cancelled.
+    virtual bool askPrinter(QPrinter &printer) = 0;
+    // The Page Setup dialog; `fileMargins` are those of Margins.ini. False when cancelled.
+    virtual bool askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins) = 0;
+    // A file name for the PDF, starting at `suggestedPath`; "" when cancelled.
+    virtual QString askPdfFileName(const QString &suggestedPath) = 0;
+    // Whether a printer is installed at all.
+    virtual bool hasPrinter() const;
+};
+
+// The real print and page-setup dialogs, parented to `parent`.
+class SystemPrintDialogs : public PrintPrompts
+{
+public:
+    explicit SystemPrintDialogs(QWidget *parent)
+        : m_parent(parent)
+    { }
+    bool askPrinter(QPrinter &printer) override;
+    bool askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins) override;
+
+private:
+    QWidget *m_parent;
+};
+
+class PrintRoutine
+{
+public:
+    PrintRoutine(PrintPrompts &prompts, const QString &programFolder);
+
+    // The Print command. True when the report went to the printer.
+    bool printReport(const SwaleProject &project, const QString &projectFilePath);
+    // The Page Setup command. True when the user accepted new choices.
+    bool pageSetup();
+    // The Export PDF command. True when the PDF was written.
+    bool exportPdf(const SwaleProject &project, const QString &projectFilePath,
+                   const QString &dataFolder);
+
+    const ReportPageSetup &setup() const { return m_setup; }
+    // The margins of the next print: those chosen in Page Setup, else Margins.ini read now.
+    PageMargins currentMargins() const;
+
+private:
+    QString marginsFilePath() const;
+
+    PrintPrompts &m_prompts;
+    QString m_programFolder;
+    ReportPageSetup m_setup;
+};
+
+// The record's margins in points as left, top, right, bottom.
+QMarginsF marginsInPoints(const PageMargins &margins);
+
+// The file name the Export PDF dialog suggests: the project's path with ".pdf", or "Swale
+// report.pdf" in `dataFolder` for an untitled project.
+QString suggestedPdfPath(const QString &projectFilePath, const QString &dataFolder);
+
+// Writes the report of `project` to `pdfPath` on the paper of `setup` with `margins`. The file
+// is replaced only once the whole report was written. Returns false with the reason in `error`.
+// Needs a QGuiApplication (fonts).
+bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
+                    const QString &projectFilePath, const ReportPageSetup &setup,
+                    const PageMargins &margins, QString *error = nullptr);

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ReportContent.h"
+#include "ReportLayout.h"
+#include "TextFitting.h"
+
+#include <QRectF>
+
+#include <vector>
+
+// The pieces the layout stacks on its pages: blocks that never break (a heading, a table row, a
+// wrapped field) and the page header and footer. Used by layoutReport only.
+
+struct ReportBlock
+{
+    double height = 0;
+    double spaceBefore = 0; // dropped at the top of a page
+    bool keepWithNext = false; // headings stay on the page of what they head
+    int repeatHeader = -1; // index in BlockList::repeatHeaders when the block is a table row
+    ReportPage items; // x in page units, y from the block's top
+};
+
+struct BlockList
+{
+    std::vector<ReportBlock> blocks;
+    std::vector<ReportBlock> repeatHeaders; // table headers repeated on continuation pages
+};
+
+// Splits the report into blocks for a text column starting at `left` and `width` wide. The
+// caption, value and unit columns are measured once over every field of the report, so that the
+// inputs and the results line up alike.
+BlockList buildReportBlocks(const ReportContent &content, double left, double width,
+                            const TextMeasure &measure);
+
+// The page header (program name, job name, a rule) and the footer (a rule, project file,
+// "Page i of n") inside the printable area.
+class PageFurniture
+{
+public:
+    PageFurniture(const QRectF &area, const TextMeasure &measure);
+
+    double bodyTop() const { return m_bodyTop; }
+    double bodyBottom() const { return m_bodyBottom; }
+    void addTo(ReportPage &page, const ReportContent &content, int number, int count) const;
+
+private:
+    QRectF m_area;
+    const TextMeasure &m_measure;
+    double m_lineHeight;
+    double m_bodyTop;
+    double m_bodyBottom;
+};

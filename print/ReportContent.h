@@ -1,0 +1,69 @@
+#pragma once
+
+#include "SwaleProject.h"
+
+#include <QString>
+
+#include <vector>
+
+// What the printed report says, before anything is measured or placed: the texts of the document
+// as the window holds them, grouped the way the report presents them.
+
+// One line of the report's tables: a caption, the value exactly as typed or shown, and its unit.
+struct ReportField
+{
+    QString caption;
+    QString value;
+    QString unit; // "" for a quantity without unit
+    bool numeric = true; // numbers align right in the value column; free text aligns left
+    bool emphasised = false; // key results of the summary print in bold
+};
+
+// One row of the inlet rating curve as typed: data row number, depth (in) and discharge (cfs).
+struct ReportRatingRow
+{
+    int row = 0;
+    QString depth;
+    QString discharge;
+};
+
+// A titled group under a section: the options chosen in it, its fields, or the rating curve.
+struct ReportGroup
+{
+    QString heading;
+    QString choice; // the caption of the chosen option ("" for groups of fields)
+    std::vector<ReportField> fields;
+    std::vector<ReportRatingRow> ratingCurve; // only the rating-curve group has rows
+    bool isRatingCurve = false;
+};
+
+struct ReportSection
+{
+    QString heading; // "I.  INPUT DATA", "II.  RESULTS"
+    QString note; // a remark printed in place of groups that are missing ("" for none)
+    std::vector<ReportGroup> groups;
+};
+
+struct ReportContent
+{
+    QString programName;
+    QString subtitle;
+    std::vector<ReportField> titleFields; // job name, engineer, date, project file
+    QString jobName; // repeated in every page header
+    QString projectFileName; // repeated in every page footer
+    std::vector<ReportSection> sections;
+};
+
+// Column titles of the rating-curve table; the window's grid shows the same two titles.
+extern const char *const kRatingDepthTitle;
+extern const char *const kRatingDepthUnit;
+extern const char *const kRatingDischargeTitle;
+extern const char *const kRatingDischargeUnit;
+extern const char *const kReportProgramName;
+
+// Builds the report of `project` as the window shows it: the inputs that the chosen solution and
+// channel-flow methods ask for, under the headings of the Input Data page; the rating curve for
+// method 3; the result boxes that the Results page shows, under its group headings and with the
+// captions of the chosen options. `projectFileName` is the path of the open project file, "" for
+// an untitled one.
+ReportContent buildReportContent(const SwaleProject &project, const QString &projectFileName);

@@ -1,0 +1,102 @@
+#include "ReportLayout.h"
+
+#include "ReportBlocks.h"
+
+#include <algorithm>
+
+QMarginsF usableMargins(const PageFrame &frame)
+{
+    QMarginsF margins(std::max(0.0, frame.margins.left()), std::max(0.0, frame.margins.top()),
+                      std::max(0.0, frame.margins.right()), std::max(0.0, frame.margins.bottom()));
+    // Scale a pair of opposite margins down so that at least a third of the sheet stays between
+    // them: a Margins.ini written in the wrong unit then still gives a readable report.
+    auto fit = [](double length, double first, double second, auto apply) {
+        const double allowed = length * 2.0 / 3.0;
+        const double total = first + second;
+        if (total > allowed && total > 0)
+            apply(allowed / total);
+    };
+    fit(frame.paper.width(), margins.left(), margins.right(), [&](double scale) {
+        margins.setLeft(margins.left() * scale);
+        margins.setRight(margins.right() * scale);
+    });
+    fit(frame.paper.height(), margins.top(), margins.bottom(), [&](double scale) {
+        margins.setTop(margins.top() * scale);
+        margins.setBottom(margins.bottom() * scale);
+    });
+    return margins;
+}
+
+namespace {
+
+void appendShifted(ReportPage &page, const ReportPage &items, double dy)
+{
+    for (PlacedText text : items.texts) {
+        text.rect.translate(0, dy);
+        page.texts.push_back(text);
+    }
+    for (PlacedRule rule : items.rules) {
+        rule.line.translate(0, dy);
+        page.rules.push_back(rule);
+    }
+    for (QRectF shade : items.shades)
+        page.shades.push_back(shade.translated(0, dy));
+}
+
+// Height of block `first` together with the blocks it must stay with.
+double keptHeight(const std::vector<ReportBlock> &blocks, size_t first)
+{
+    double height = blocks[first].height;
+    for (size_t i = first; blocks[i].keepWithNext && i + 1 < blocks.size(); ++i)
+        height += blocks[i + 1].spaceBefore + blocks[i + 1].height;
+    return height;
+}
+
+// Fills pages top to bottom between `top` and `bottom`. A block that does not fit (with the
+// blocks it keeps with) starts a new page, unless the page is still empty: an oversized block is
+// then placed anyway, so that the layout always moves on. A block that opens a page inside a
+// table first repeats the table's header.
+std::vector<ReportPage> paginate(const BlockList &list, double top, double bottom)
+{
+    std::vector<ReportPage> pages(1);
+    double y = top;
+    bool empty = true;
+    for (size_t i = 0; i < list.blocks.size(); ++i) {
+        const ReportBlock &block = list.blocks[i];
+        const double before = empty ? 0 : block.spaceBefore;
+        if (!empty && y + before + keptHeight(list.blocks, i) > bottom) {
+            pages.emplace_back();
+            y = top;
+            empty = true;
+        }
+        if (empty && block.repeatHeader >= 0) {
+            const ReportBlock &header = list.repeatHeaders[static_cast<size_t>(block.repeatHeader)];
+            appendShifted(pages.back(), header.items, y);
+            y += header.height;
+        } else if (!empty) {
+            y += block.spaceBefore;
+        }
+        appendShifted(pages.back(), block.items, y);
+        y += block.height;
+        empty = false;
+    }
+    return pages;
+}
+
+} // namespace
+
+std::vector<ReportPage> layoutReport(const ReportContent &content, const PageFrame &frame,
+                                     const TextMeasure &measure)
+{
+    const QMarginsF margins = usableMargins(frame);
+    const QRectF area(margins.left(), margins.top(),
+                      frame.paper.width() - margins.left() - margins.right(),
+                      frame.paper.height() - margins.top() - margins.bottom());
+    const PageFurniture furniture(area, measure);
+    const BlockList list = buildReportBlocks(content, area.left(), area.width(), measure);
+    std::vector<ReportPage> pages = paginate(list, furniture.bodyTop(), furniture.bodyBottom());
+    const int count = static_cast<int>(pages.size());
+    for (int i = 0; i < count; ++i)
+        furniture.addTo(pages[static_cast<size_t>(i)], content, i + 1, count);
+    return pages;
+}
