@@ -84,7 +84,10 @@ bool DataFile::OpenForWrite(const std::string &path)
     if (QFileInfo(target).isDir())
         return fail("the path names a folder");
     m_saveFile = std::make_unique<QSaveFile>(target);
-    if (!m_saveFile->open(QIODevice::WriteOnly)) {
+    // Unbuffered: a failed write must reach QSaveFile itself, which then refuses to commit. A
+    // buffered write that fails only while the buffer is flushed at commit would still replace
+    // the target with a cut file.
+    if (!m_saveFile->open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         const std::string reason = m_saveFile->errorString().toStdString();
         m_saveFile.reset();
         return fail(reason);
@@ -186,7 +189,8 @@ bool DataFile::Close()
         bytes = m_content; // some character is not in Windows-1252: keep every one as UTF-8
     m_content.clear();
     const auto written = m_saveFile->write(bytes.data(), static_cast<qint64>(bytes.size()));
-    bool ok = written == static_cast<qint64>(bytes.size());
+    bool ok = written == static_cast<qint64>(bytes.size()) && m_saveFile->flush()
+            && m_saveFile->error() == QFileDevice::NoError;
     if (ok)
         ok = m_saveFile->commit();
     else

@@ -1,0 +1,372 @@
+#include "DataFile.h"
+
+#include "TempFolder.h"
+#include "TextEncoding.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <string>
+#include <sys/resource.h>
+#include <vector>
+
+namespace {
+using Lines = std::vector<std::string>;
+
+bool writeFile(const std::string &path, const Lines &lines)
+{
+    DataFile file;
+    if (!file.OpenForWrite(path))
+        return false;
+    for (const std::string &line : lines) {
+        if (!file.WriteLine(line))
+            return false;
+    }
+    return file.Close();
+}
+
+// Every line of the file; fails the test when the file does not open.
+Lines readAllLines(const std::string &path)
+{
+    DataFile file;
+    EXPECT_TRUE(file.OpenForRead(path)) << file.errorString();
+    Lines lines;
+    std::string line;
+    while (file.ReadLine(line))
+        lines.push_back(line);
+    EXPECT_TRUE(file.atEnd());
+    return lines;
+}
+
+TEST(DataFileWriting, EndsEveryLineWithCrLf)
+{
+    TempFolder folder;
+    const std::string path = folder.file("lines.txt");
+    ASSERT_TRUE(writeFile(path, { "Swale_03", "", "4.5", "Job, with comma" }));
+    EXPECT_EQ(readBytes(path), "Swale_03\r\n\r\n4.5\r\nJob, with comma\r\n");
+}
+
+TEST(DataFileWriting, NoLinesGiveAnEmptyFile)
+{
+    TempFolder folder;
+    const std::string path = folder.file("empty.txt");
+    ASSERT_TRUE(writeFile(path, {}));
+    EXPECT_EQ(readBytes(path), "");
+}
+
+TEST(DataFileWriting, RefusesLineBreaksInsideAValue)
+{
+    TempFolder folder;
+    DataFile file;
+    ASSERT_TRUE(file.OpenForWrite(folder.file("x.txt")));
+    EXPECT_FALSE(file.WriteLine("two\nlines"));
+    EXPECT_FALSE(file.WriteLine("carriage\rreturn"));
+    EXPECT_NE(file.errorString().find("line break"), std::string::npos);
+    EXPECT_FALSE(file.WriteLine("\xC3")); // a cut UTF-8 sequence is no text
+}
+
+TEST(DataFileWriting, OperationsOutOfModeFail)
+{
+    DataFile file;
+    std::string line;
+    int value = 0;
+    EXPECT_FALSE(file.WriteLine("x"));
+    EXPECT_FALSE(file.ReadLine(line));
+    EXPECT_FALSE(file.ReadInteger(value));
+    EXPECT_TRUE(file.Close()); // closing a closed file is harmless
+}
+
+struct LineEndingCase
+{
+    const char *name;
+    std::string bytes;
+    Lines expected;
+};
+
+const LineEndingCase kLineEndings[] = {
+    { "CR LF", "a\r\nb\r\n", { "a", "b" } },
+    { "lone LF", "a\nb\n", { "a", "b" } },
+    { "mixed", "a\r\nb\nc\r\n", { "a", "b", "c" } },
+    { "no terminator on the last line", "a\r\nb", { "a", "b" } },
+    { "empty lines kept", "\r\n\r\nx\r\n", { "", "", "x" } },
+    { "a CR inside a line stays", "a\rb\r\n", { "a\rb" } },
+    { "empty file", "", {} },
+    { "a single terminator is one empty line", "\r\n", { "" } },
+};
+
+TEST(DataFileReading, AcceptsCrLfAndLoneLf)
+{
+    TempFolder folder;
+    for (const LineEndingCase &row : kLineEndings) {
+        SCOPED_TRACE(row.name);
+        const std::string path = folder.file("endings.txt");
+        writeBytes(path, row.bytes);
+        EXPECT_EQ(readAllLines(path), row.expected);
+    }
+}
+
+TEST(DataFileReading, FailsAtTheEndWithAClearText)
+{
+    TempFolder folder;
+    const std::string path = folder.file("short.txt");
+    writeBytes(path, "one\r\n");
+    DataFile file;
+    ASSERT_TRUE(file.OpenForRead(path));
+    std::string line;
+    ASSERT_TRUE(file.ReadLine(line));
+    EXPECT_FALSE(file.ReadLine(line));
+    EXPECT_EQ(line, "one") << "a failed read leaves the text alone";
+    EXPECT_EQ(file.errorString(), "unexpected end of file after line 1");
+    int value = 7;
+    EXPECT_FALSE(file.ReadInteger(value));
+    EXPECT_EQ(value, 7);
+}
+
+struct EncodingCase
+{
+    const char *name;
+    std::string fileBytes;
+    std::string text; // UTF-8
+};
+
+// Bytes on disk and the text they stand for. "\xC3\xA9" is é in UTF-8, "\xE9" in Windows-1252.
+const EncodingCase kReadEncodings[] = {
+    { "plain ASCII", "Job 12", "Job 12" },
+    { "UTF-8", "caf\xC3\xA9 \xE2\x82\xAC", "caf\xC3\xA9 \xE2\x82\xAC" },
+    { "Windows-1252 letters", "caf\xE9", "caf\xC3\xA9" },
+    { "Windows-1252 euro and quotes", "\x80 \x93q\x94", "\xE2\x82\xAC \xE2\x80\x9Cq\xE2\x80\x9D" },
+    { "Windows-1252 undefined byte", "a\x81", "a\xC2\x81" },
+    { "byte-order mark dropped", "\xEF\xBB\xBFSwale_03", "Swale_03" },
+    { "degree and superscript three", "\xB0 ft\xB3", "\xC2\xB0 ft\xC2\xB3" },
+};
+
+TEST(DataFileEncoding, ReadsUtf8ElseWindows1252)
+{
+    TempFolder folder;
+    for (const EncodingCase &row : kReadEncodings) {
+        SCOPED_TRACE(row.name);
+        const std::string path = folder.file("encoding.txt");
+        writeBytes(path, row.fileBytes + "\r\n");
+        EXPECT_EQ(readAllLines(path), Lines{ row.text });
+    }
+}
+
+TEST(DataFileEncoding, OneForeignByteMakesTheWholeFileWindows1252)
+{
+    // "Ã©" is valid UTF-8 for é only when the whole file is UTF-8; one byte that cannot be UTF-8
+    // elsewhere decides for Windows-1252, so the first line reads as two characters.
+    TempFolder folder;
+    const std::string path = folder.file("mixed.txt");
+    writeBytes(path, "\xC3\xA9\r\n\xE9\r\n");
+    EXPECT_EQ(readAllLines(path), (Lines{ "\xC3\x83\xC2\xA9", "\xC3\xA9" }));
+}
+
+TEST(DataFileEncoding, WritesWindows1252WhenEveryCharacterFits)
+{
+    TempFolder folder;
+    const std::string path = folder.file("western.txt");
+    ASSERT_TRUE(writeFile(path, { "caf\xC3\xA9", "\xE2\x82\xAC 5", "ft\xC2\xB3" }));
+    EXPECT_EQ(readBytes(path), "caf\xE9\r\n\x80 5\r\nft\xB3\r\n");
+    EXPECT_EQ(readAllLines(path), (Lines{ "caf\xC3\xA9", "\xE2\x82\xAC 5", "ft\xC2\xB3" }));
+}
+
+TEST(DataFileEncoding, WritesUtf8WhenACharacterDoesNotFit)
+{
+    TempFolder folder;
+    const std::string path = folder.file("greek.txt");
+    // é fits Windows-1252, the Greek delta does not: the whole file becomes UTF-8.
+    const Lines lines = { "caf\xC3\xA9", "\xCE\x94h = 2" };
+    ASSERT_TRUE(writeFile(path, lines));
+    EXPECT_EQ(readBytes(path), "caf\xC3\xA9\r\n\xCE\x94h = 2\r\n");
+    EXPECT_EQ(readAllLines(path), lines);
+}
+
+TEST(TextEncoding, RecognisesMalformedUtf8)
+{
+    EXPECT_TRUE(isValidUtf8(""));
+    EXPECT_TRUE(isValidUtf8("\xF0\x9F\x98\x80")); // U+1F600
+    EXPECT_FALSE(isValidUtf8("\xC0\xAF")); // overlong "/"
+    EXPECT_FALSE(isValidUtf8("\xED\xA0\x80")); // a surrogate
+    EXPECT_FALSE(isValidUtf8("\xF4\x90\x80\x80")); // beyond U+10FFFF
+    EXPECT_FALSE(isValidUtf8("\xE2\x82")); // cut short
+    EXPECT_FALSE(isValidUtf8("\x80"));
+    std::string bytes;
+    EXPECT_FALSE(utf8ToWindows1252("\xE2\x82", bytes));
+}
+
+TEST(TextEncoding, EveryWindows1252ByteRoundTrips)
+{
+    std::string all;
+    for (int b = 1; b < 256; ++b)
+        all += static_cast<char>(b);
+    const std::string text = windows1252ToUtf8(all);
+    EXPECT_TRUE(isValidUtf8(text));
+    std::string back;
+    ASSERT_TRUE(utf8ToWindows1252(text, back));
+    EXPECT_EQ(back, all);
+}
+
+struct IntegerCase
+{
+    const char *line;
+    bool ok;
+    int value;
+};
+
+const IntegerCase kIntegers[] = {
+    { "0", true, 0 },
+    { "3", true, 3 },
+    { "  12  ", true, 12 },
+    { "\t5\t", true, 5 },
+    { "+7", true, 7 },
+    { "-1", true, -1 },
+    { "007", true, 7 },
+    { "32767", true, 32767 },
+    { "-32768", true, -32768 },
+    { "32768", false, 0 },
+    { "-32769", false, 0 },
+    { "99999999999999999999999", false, 0 },
+    { "", false, 0 },
+    { "   ", false, 0 },
+    { "+", false, 0 },
+    { "- 5", false, 0 },
+    { "1.5", false, 0 },
+    { "1e3", false, 0 },
+    { "12a", false, 0 },
+    { "abc", false, 0 },
+    { "0x10", false, 0 },
+    { "1 2", false, 0 },
+    { "1,000", false, 0 },
+};
+
+TEST(DataFileReadInteger, AcceptsOnlyShortWholeNumbers)
+{
+    TempFolder folder;
+    const std::string path = folder.file("integers.txt");
+    for (const IntegerCase &row : kIntegers) {
+        SCOPED_TRACE(std::string("line [") + row.line + "]");
+        writeBytes(path, std::string(row.line) + "\r\n");
+        DataFile file;
+        ASSERT_TRUE(file.OpenForRead(path));
+        int value = -999;
+        EXPECT_EQ(file.ReadInteger(value), row.ok);
+        if (row.ok) {
+            EXPECT_EQ(value, row.value);
+        } else {
+            EXPECT_NE(file.errorString().find("line 1: "), std::string::npos)
+                    << file.errorString();
+        }
+    }
+}
+
+TEST(DataFileRefusals, MissingFileAndFolder)
+{
+    TempFolder folder;
+    DataFile file;
+    EXPECT_FALSE(file.OpenForRead(folder.file("missing.swl")));
+    EXPECT_FALSE(file.errorString().empty());
+    EXPECT_FALSE(file.OpenForRead(folder.path()));
+    EXPECT_EQ(file.errorString(), "the path names a folder");
+    EXPECT_FALSE(file.OpenForWrite(folder.path()));
+    EXPECT_FALSE(file.OpenForWrite(folder.file("no/such/folder/x.swl")));
+    EXPECT_FALSE(file.errorString().empty());
+}
+
+TEST(DataFileRefusals, BinaryDataIsNotText)
+{
+    TempFolder folder;
+    const std::string path = folder.file("binary.swl");
+    writeBytes(path, std::string("Swale_03\r\n\x01\x02\0\xFF\xFE", 15));
+    DataFile file;
+    EXPECT_FALSE(file.OpenForRead(path));
+    EXPECT_EQ(file.errorString(), "the file holds binary data, not text");
+}
+
+TEST(DataFileRefusals, AHugeLineFailsItsRead)
+{
+    TempFolder folder;
+    const std::string path = folder.file("huge.swl");
+    writeBytes(path, "Swale_03\r\n" + std::string(DataFile::kMaxLineLength + 1, '7') + "\r\nafter\r\n");
+    DataFile file;
+    ASSERT_TRUE(file.OpenForRead(path));
+    std::string line;
+    ASSERT_TRUE(file.ReadLine(line));
+    EXPECT_FALSE(file.ReadLine(line));
+    EXPECT_NE(file.errorString().find("line 2: the line is longer than"), std::string::npos);
+    EXPECT_FALSE(file.ReadLine(line)) << "nothing after a runaway line is read";
+
+    // A line of exactly the limit is still read.
+    writeBytes(path, std::string(DataFile::kMaxLineLength, 'x'));
+    ASSERT_TRUE(file.OpenForRead(path));
+    EXPECT_TRUE(file.ReadLine(line));
+    EXPECT_EQ(line.size(), DataFile::kMaxLineLength);
+}
+
+TEST(DataFileRefusals, AFileBeyondTheSizeLimitIsRefused)
+{
+    TempFolder folder;
+    const std::string path = folder.file("large.txt");
+    writeBytes(path, std::string(static_cast<size_t>(DataFile::kMaxFileSize) + 1, '\n'));
+    DataFile file;
+    EXPECT_FALSE(file.OpenForRead(path));
+    EXPECT_NE(file.errorString().find("too large"), std::string::npos);
+}
+
+TEST(DataFileAtomicSave, ReplacesTheOldFileOnlyAtClose)
+{
+    TempFolder folder;
+    const std::string path = folder.file("project.swl");
+    writeBytes(path, "old\r\n");
+    DataFile file;
+    ASSERT_TRUE(file.OpenForWrite(path));
+    ASSERT_TRUE(file.WriteLine("new"));
+    EXPECT_EQ(readBytes(path), "old\r\n") << "the target is untouched until Close";
+    ASSERT_TRUE(file.Close()) << file.errorString();
+    EXPECT_EQ(readBytes(path), "new\r\n");
+    EXPECT_EQ(folder.entries(), std::vector<std::string>{ "project.swl" });
+}
+
+TEST(DataFileAtomicSave, AnUnfinishedSaveKeepsTheOldFile)
+{
+    TempFolder folder;
+    const std::string path = folder.file("project.swl");
+    writeBytes(path, "old\r\n");
+    {
+        DataFile file;
+        ASSERT_TRUE(file.OpenForWrite(path));
+        ASSERT_TRUE(file.WriteLine("half"));
+    } // destroyed without Close, as when a writer gives up part way
+    EXPECT_EQ(readBytes(path), "old\r\n");
+    EXPECT_EQ(folder.entries(), std::vector<std::string>{ "project.swl" });
+}
+
+// Runs in a death-test child: saves over `path` with writes limited to 64 bytes and exits with 0
+// when the save failed with an error text, as it must.
+[[noreturn]] void saveUnderFileSizeLimit(const std::string &path)
+{
+    const rlimit limit = { 64, 64 };
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, SIG_IGN); // the write then fails with EFBIG instead of a signal
+    DataFile file;
+    bool ok = file.OpenForWrite(path);
+    for (int i = 0; ok && i < 100; ++i)
+        ok = file.WriteLine(std::string(60, 'n'));
+    const bool closed = ok && file.Close();
+    std::_Exit(ok && !closed && !file.errorString().empty() ? 0 : 1);
+}
+
+TEST(DataFileAtomicSave, AFailedWriteKeepsTheOldFile)
+{
+    // A file-size limit makes the write of the new content fail half way, as a full disk does.
+    // The save runs in a child process so that the limit does not touch the test program.
+    TempFolder folder;
+    const std::string path = folder.file("project.swl");
+    const std::string old = "Swale_03\r\nold content\r\n";
+    writeBytes(path, old);
+    EXPECT_EXIT(saveUnderFileSizeLimit(path), ::testing::ExitedWithCode(0), "");
+    EXPECT_EQ(readBytes(path), old);
+    EXPECT_EQ(folder.entries(), std::vector<std::string>{ "project.swl" })
+            << "the temporary file is removed";
+}
+} // namespace

@@ -1,0 +1,153 @@
+#include "TextParser.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+// Every token of `text`, in order, until GetNextToken reports false.
+template<typename Parser>
+std::vector<std::string> tokensOf(Parser &parser, const std::string &text)
+{
+    parser.setText(text);
+    std::vector<std::string> tokens;
+    std::string token;
+    bool more = parser.GetFirstToken(token);
+    while (more) {
+        tokens.push_back(token);
+        if (tokens.size() > text.size() + 1) {
+            ADD_FAILURE() << "the parser does not come to an end";
+            break;
+        }
+        more = parser.GetNextToken(token);
+    }
+    EXPECT_EQ(token, "") << "a failed read leaves an empty token";
+    return tokens;
+}
+
+using Tokens = std::vector<std::string>;
+
+struct TokenCase
+{
+    const char *name;
+    std::string text;
+    Tokens expected;
+};
+
+// The blanks before a token stay with it: the token starts at the cursor, which rests on the
+// separating blank after each token.
+const TokenCase kBlankCases[] = {
+    { "three words", "ab cd ef", { "ab", " cd", " ef" } },
+    { "two letters", "a b", { "a", " b" } },
+    { "trailing blanks come back once", "a   ", { "a", "   " } },
+    { "leading blanks belong to the first token", "  ab", { "  ab" } },
+    { "double blank between words", "ab  cd", { "ab", "  cd" } },
+    { "single character", "x", { "x" } },
+    { "blanks only", "   ", { "   " } },
+    { "commas are not separators", "1.5,2.0", { "1.5,2.0" } },
+    { "a tab is not a separator", "a\tb c", { "a\tb", " c" } },
+    { "empty text", "", {} },
+};
+
+// Only blanks are skipped before a token; the delimiter search starts one place after the
+// token's first non-blank character, and the delimiter that ends a token is consumed.
+const TokenCase kDelimiterCases[] = {
+    { "rating-curve row", "1.5,2.0", { "1.5", "2.0" } },
+    { "blank after the comma stays", "1.5, 2.0", { "1.5", " 2.0" } },
+    { "empty field absorbs its comma", "1.5,,2", { "1.5", ",2" } },
+    { "a lone comma is a token", ",", { "," } },
+    { "blank separated", "3 4", { "3", "4" } },
+    { "tab separated", "3\t4", { "3", "4" } },
+    { "half-inch row", "0.5,1.25", { "0.5", "1.25" } },
+    { "three fields", "1,2,3", { "1", "2", "3" } },
+    { "trailing comma", "1,", { "1" } },
+    { "leading comma", ",5", { ",5" } },
+    { "blank and comma", "1 ,2", { "1", ",2" } },
+    { "a trailing blank ends the last token", "7 ", { "7" } },
+    { "empty text", "", {} },
+};
+
+TEST(clsTextParser, SplitsAtBlanksKeepingLeadingBlanks)
+{
+    for (const TokenCase &row : kBlankCases) {
+        SCOPED_TRACE(row.name);
+        clsTextParser parser;
+        EXPECT_EQ(tokensOf(parser, row.text), row.expected);
+    }
+}
+
+TEST(clsTextParserExt, SplitsAtDefaultDelimiters)
+{
+    for (const TokenCase &row : kDelimiterCases) {
+        SCOPED_TRACE(row.name);
+        clsTextParserExt parser;
+        EXPECT_EQ(tokensOf(parser, row.text), row.expected);
+    }
+}
+
+TEST(clsTextParserExt, CustomDelimitersReplaceTheDefaults)
+{
+    clsTextParserExt parser;
+    parser.setCustomDelimiters(";");
+    EXPECT_EQ(tokensOf(parser, "1,5;2 5"), (Tokens{ "1,5", "2 5" }));
+    parser.setCustomDelimiters("");
+    EXPECT_EQ(tokensOf(parser, "1,5;2"), (Tokens{ "1", "5;2" }));
+}
+
+TEST(TextParsers, EmptyTextGivesNoFirstToken)
+{
+    std::string token = "stale";
+    clsTextParser blanks;
+    EXPECT_FALSE(blanks.GetFirstToken(token));
+    EXPECT_EQ(token, "");
+    token = "stale";
+    clsTextParserExt delimiters;
+    EXPECT_FALSE(delimiters.GetFirstToken(token));
+    EXPECT_EQ(token, "");
+}
+
+TEST(TextParsers, GetFirstTokenStartsOver)
+{
+    clsTextParserExt parser;
+    parser.setText("4,8");
+    std::string token;
+    ASSERT_TRUE(parser.GetFirstToken(token));
+    ASSERT_TRUE(parser.GetNextToken(token));
+    EXPECT_EQ(token, "8");
+    ASSERT_TRUE(parser.GetFirstToken(token));
+    EXPECT_EQ(token, "4");
+
+    clsTextParser words;
+    words.setText("ab cd");
+    ASSERT_TRUE(words.GetFirstToken(token));
+    ASSERT_TRUE(words.GetNextToken(token));
+    EXPECT_FALSE(words.GetNextToken(token));
+    ASSERT_TRUE(words.GetFirstToken(token));
+    EXPECT_EQ(token, "ab");
+    EXPECT_EQ(words.Text(), "ab cd");
+}
+
+TEST(TextParsers, SettingTextResetsTheCursor)
+{
+    clsTextParser parser;
+    parser.setText("one two");
+    std::string token;
+    parser.GetFirstToken(token);
+    parser.GetNextToken(token);
+    parser.setText("three");
+    ASSERT_TRUE(parser.GetNextToken(token));
+    EXPECT_EQ(token, "three");
+}
+
+TEST(TextParsers, TextBeyondTheSixteenBitCursorIsNotReached)
+{
+    // The cursor of the design is a 16-bit integer: a text longer than 32,767 characters is
+    // split as far as the cursor reaches, and the parser still ends.
+    const std::string text = std::string(32767, 'a') + " tail";
+    clsTextParser parser;
+    const Tokens tokens = tokensOf(parser, text);
+    ASSERT_EQ(tokens.size(), 1u);
+    EXPECT_EQ(tokens[0].size(), 32767u);
+}
+} // namespace
