@@ -20,6 +20,12 @@ bool parseCommandLine(const std::vector<std::string> &arguments, CommandLine &co
                 commandLine.help = true;
             } else if (argument == "--json") {
                 commandLine.json = true;
+            } else if (argument == "--pdf") {
+                if (i + 1 >= arguments.size() || arguments[i + 1].empty()) {
+                    error = "--pdf needs the name of the PDF file to write";
+                    return false;
+                }
+                commandLine.pdfPath = arguments[++i];
             } else {
                 error = "unknown option " + argument;
                 return false;
@@ -43,7 +49,7 @@ bool parseCommandLine(const std::vector<std::string> &arguments, CommandLine &co
 
 std::string usageText()
 {
-    return "Usage: swale-calc [--json] FILE.swl\n"
+    return "Usage: swale-calc [--json] [--pdf OUT.pdf] FILE.swl\n"
            "\n"
            "Loads a swale project file (.swl, versions 1 to 3), checks its input and runs the\n"
            "calculation of its solution method, as the Calculate button of the window does.\n"
@@ -55,8 +61,12 @@ std::string usageText()
            "                 (or \"row\" and \"col\" of a rating-curve cell)\n"
            "               {\"status\": \"failed\", \"messages\": [...]}\n"
            "               {\"status\": \"unreadable\", \"message\": ...}\n"
+           "  --pdf OUT.pdf\n"
+           "             also write the printed report (inputs and results) to OUT.pdf, with the\n"
+           "             margins of Margins.ini beside the program; written only when the\n"
+           "             project calculates\n"
            "  -h, --help show this text\n"
            "\n"
            "Exit codes: 0 results, 1 invalid input, 2 calculation failure, 3 file not loaded,\n"
-           "64 usage error.\n";
+           "64 usage error, 73 PDF not written.\n";
 }

@@ -9,6 +9,7 @@ enum ExitCode {
     ExitInvalidInput = 1,
     ExitCalculationFailed = 2,
     ExitFileNotLoaded = 3,
+    ExitPdfNotWritten = 73, // EX_CANTCREAT of sysexits.h: --pdf could not write its file
     ExitUsage = 64, // EX_USAGE of sysexits.h
 };
 
@@ -17,6 +18,7 @@ struct CommandLine
 {
     bool help = false;
     bool json = false;
+    std::string pdfPath; // --pdf OUT.pdf: also write the printed report there
     std::string projectPath;
 };
 

@@ -2,6 +2,7 @@
 
 #include "CommandLine.h"
 #include "JsonOutput.h"
+#include "PdfReport.h"
 #include "ProjectFile.h"
 #include "TextReport.h"
 
@@ -56,5 +57,19 @@ int main(int argc, char *argv[])
         std::cout << resultsReport(project, outcome);
     else
         std::cerr << faultReport(outcome);
+
+    if (!commandLine.pdfPath.empty()) {
+        if (outcome.status != CalculationOutcome::Status::Ok) {
+            std::cerr << "swale-calc: no PDF written: the project has no results\n";
+        } else {
+            project.outputText = outcome.results;
+            project.resultsShown = true;
+            if (!writeProjectPdf(commandLine.pdfPath, project, commandLine.projectPath, error)) {
+                std::cerr << "swale-calc: Error writing to file: " << commandLine.pdfPath << " ("
+                          << error << ")\n";
+                return ExitPdfNotWritten;
+            }
+        }
+    }
     return exitCodeOf(outcome);
 }

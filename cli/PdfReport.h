@@ -1,0 +1,13 @@
+#pragma once
+
+#include "SwaleProject.h"
+
+#include <string>
+
+// Writes the printed report of `project` (inputs as loaded, results filled in) to `pdfPath`, as
+// the window's Export PDF writes it: US Letter, portrait, with the margins of Margins.ini in the
+// program's own folder. `projectPath` names the project in the report. Starts the Qt GUI machinery
+// the fonts need, on the offscreen platform unless QT_QPA_PLATFORM says otherwise, so that no
+// display is required. Returns false with the reason in `error`.
+bool writeProjectPdf(const std::string &pdfPath, const SwaleProject &project,
+                     const std::string &projectPath, std::string &error);
