@@ -1,0 +1,166 @@
+#include "SettingsFiles.h"
+
+#include "DataFile.h"
+#include "GlobalData.h"
+#include "NumberText.h"
+
+#include <cctype>
+#include <cfenv>
+#include <climits>
+#include <cmath>
+#include <cstdlib>
+
+const char *const kWindowStateFile = "WindowState.ini";
+const char *const kRecentFilesFile = "RecentFiles.ini";
+const char *const kDefHelpImageFile = "DefHelpImg.ini";
+const char *const kDefWindowSizeFile = "DefWindowSize.ini";
+const char *const kHelpImagesFile = "HelpImages.ini";
+
+namespace {
+
+const std::array<const char *, kHelpImageSizeCount + 1> kHelpImageKeys = {
+    "", "SMALL", "MEDIUM", "LARGE", "LARGEST"
+};
+
+std::string upperCase(std::string text)
+{
+    for (char &c : text)
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    return text;
+}
+
+// The value of a settings line as a whole number. The text must read as a number by the same
+// rule as the input boxes; thousands separators and a "$" are dropped before the conversion,
+// which rounds to nearest with halves going to the even neighbour (9000.5 -> 9000, 9001.5 -> 9002).
+std::optional<int> settingsNumber(const std::string &text)
+{
+    if (!isRecognisedNumber(text))
+        return std::nullopt;
+    std::string digits;
+    for (char c : trimBlanks(text)) {
+        if (c != ',' && c != '$')
+            digits += c;
+    }
+    const double value = std::strtod(digits.c_str(), nullptr);
+    if (!std::isfinite(value))
+        return std::nullopt;
+    const int savedMode = std::fegetround();
+    std::fesetround(FE_TONEAREST);
+    const double rounded = std::nearbyint(value);
+    std::fesetround(savedMode);
+    if (rounded < INT_MIN || rounded > INT_MAX)
+        return std::nullopt;
+    return static_cast<int>(rounded);
+}
+
+void take(const KeyValues &values, const char *key, std::optional<int> &field)
+{
+    const auto found = values.find(key);
+    if (found != values.end())
+        field = found->second;
+}
+
+bool writeLines(const std::string &path, const std::initializer_list<std::string> &lines)
+{
+    DataFile file;
+    if (!file.OpenForWrite(path))
+        return false;
+    for (const std::string &line : lines) {
+        if (!file.WriteLine(line))
+            return false;
+    }
+    return file.Close();
+}
+
+} // namespace
+
+bool ReadKeyValueFile(const std::string &path, KeyValues &values)
+{
+    DataFile file;
+    if (!file.OpenForRead(path))
+        return false;
+    std::string line;
+    while (file.ReadLine(line)) {
+        const size_t equals = line.find('=');
+        if (equals == std::string::npos)
+            continue;
+        const std::optional<int> value = settingsNumber(line.substr(equals + 1));
+        if (value)
+            values[upperCase(line.substr(0, equals))] = *value;
+    }
+    const bool readToEnd = file.atEnd();
+    file.Close();
+    return readToEnd;
+}
+
+bool ReadWindowState(const std::string &path, WindowPlacement &placement)
+{
+    KeyValues values;
+    const bool ok = ReadKeyValueFile(path, values);
+    take(values, "STATE", placement.state);
+    take(values, "LEFT", placement.left);
+    take(values, "TOP", placement.top);
+    take(values, "HEIGHT", placement.height);
+    take(values, "WIDTH", placement.width);
+    return ok;
+}
+
+bool ReadDefWindowSize(const std::string &path, WindowPlacement &placement)
+{
+    KeyValues values;
+    const bool ok = ReadKeyValueFile(path, values);
+    take(values, "HEIGHT", placement.height);
+    take(values, "WIDTH", placement.width);
+    return ok;
+}
+
+bool WriteWindowState(const std::string &path, WindowShowState state, int top, int left,
+                      int height, int width)
+{
+    const std::string stateLine = "State=" + std::to_string(static_cast<int>(state));
+    if (state != WindowShowState::Normal)
+        return writeLines(path, { stateLine });
+    return writeLines(path,
+                      { stateLine, "Top=" + std::to_string(top), "Left=" + std::to_string(left),
+                        "Height=" + std::to_string(height), "Width=" + std::to_string(width) });
+}
+
+HelpImageFiles ReadHelpImageFolders(const std::string &programFolder)
+{
+    HelpImageFiles files{};
+    DataFile file;
+    if (!file.OpenForRead(programFolder + kHelpImagesFile))
+        return files;
+    std::string line;
+    while (file.ReadLine(line)) {
+        const size_t equals = line.find('=');
+        if (equals == std::string::npos)
+            continue;
+        const std::string key = upperCase(trimBlanks(line.substr(0, equals)));
+        const std::string value = trimBlanks(line.substr(equals + 1));
+        if (value.empty())
+            continue;
+        for (int size = 1; size <= kHelpImageSizeCount; ++size) {
+            if (key == kHelpImageKeys[static_cast<size_t>(size)]
+                && fileExists(programFolder + value))
+                files[static_cast<size_t>(size)] = value;
+        }
+    }
+    file.Close();
+    return files;
+}
+
+int ReadDefHelpImage(const std::string &settingsFolder)
+{
+    DataFile file;
+    int size = 0;
+    if (!file.OpenForRead(settingsFolder + kDefHelpImageFile) || !file.ReadInteger(size))
+        return 0;
+    file.Close();
+    return size >= 1 && size <= kHelpImageSizeCount ? size : 0;
+}
+
+bool WriteDefHelpImage(const std::string &settingsFolder, int size)
+{
+    return writeLines(settingsFolder + kDefHelpImageFile, { std::to_string(size) });
+}
