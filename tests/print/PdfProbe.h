@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+// Reads back a PDF the way a reviewer would: its text through pdftotext (poppler-utils), and
+// every word with its box in points, so tests can check what is printed and where.
+struct PdfWord
+{
+    int page = 0; // from 1
+    QRectF box; // points from the sheet's top left corner
+    QString text;
+};
+
+struct PdfPageSize
+{
+    double width = 0; // points
+    double height = 0;
+};
+
+class PdfProbe
+{
+public:
+    explicit PdfProbe(const QString &pdfPath);
+
+    bool isValid() const { return m_valid; }
+    QString errorString() const { return m_error; }
+    int pageCount() const { return static_cast<int>(m_pages.size()); }
+    const PdfPageSize &pageSize(int page) const { return m_pages[static_cast<size_t>(page - 1)]; }
+
+    // The text of one page (from 1) or of all pages, with runs of blanks and line ends collapsed
+    // to one blank, so that a caption and its value read as one phrase.
+    QString pageText(int page) const;
+    QString text() const;
+    const std::vector<PdfWord> &words() const { return m_words; }
+    // The words of one page.
+    std::vector<PdfWord> wordsOf(int page) const;
+    // How many pages hold `phrase` (blanks collapsed as in pageText).
+    int pagesContaining(const QString &phrase) const;
+
+private:
+    bool runPdftotext(const QStringList &arguments, QString &output);
+
+    bool m_valid = false;
+    QString m_error;
+    std::vector<PdfPageSize> m_pages;
+    std::vector<PdfWord> m_words;
+    QStringList m_pageTexts;
+};
+
+// Collapses blanks and line ends to single blanks.
+QString simplifiedText(const QString &text);

@@ -1,0 +1,271 @@
+#include "PrintRoutine.h"
+
+#include "PdfProbe.h"
+#include "ReportFixtures.h"
+
+#include <QDoubleSpinBox>
+#include <QFile>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+// Print prompts with scripted answers; it records every message and fails the test on a
+// dialog the test did not script.
+class RecordingPrintPrompts : public PrintPrompts
+{
+public:
+    struct Message
+    {
+        QString text;
+        int style;
+        QString title;
+    };
+
+    int ShowErrorMessage(const QString &message, int style, const QString &title) override
+    {
+        messages.push_back({ message, style, title });
+        return 1;
+    }
+    bool askPrinter(QPrinter &) override
+    {
+        ++printerDialogs;
+        if (!printerAnswer)
+            QTest::qFail("unscripted print dialog", __FILE__, __LINE__);
+        return printerAnswer.value_or(false);
+    }
+    bool askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins) override
+    {
+        offeredFileMargins = fileMargins;
+        if (!pageSetupAnswer) {
+            QTest::qFail("unscripted page setup", __FILE__, __LINE__);
+            return false;
+        }
+        setup = *pageSetupAnswer;
+        return true;
+    }
+    QString askPdfFileName(const QString &suggestedPath) override
+    {
+        suggested = suggestedPath;
+        if (!pdfAnswer) {
+            QTest::qFail("unscripted PDF file dialog", __FILE__, __LINE__);
+            return QString();
+        }
+        return *pdfAnswer;
+    }
+    bool hasPrinter() const override { return printerInstalled; }
+
+    bool printerInstalled = false;
+    std::optional<bool> printerAnswer;
+    std::optional<ReportPageSetup> pageSetupAnswer;
+    std::optional<QString> pdfAnswer;
+    std::vector<Message> messages;
+    int printerDialogs = 0;
+    PageMargins offeredFileMargins;
+    QString suggested;
+};
+
+void writeMarginsFile(const QString &folder, const QByteArray &lines)
+{
+    QFile file(folder + QStringLiteral("/Margins.ini"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(lines);
+}
+
+// Left edge, in points, of the leftmost word on page 1.
+double leftmostWord(const QString &pdfPath)
+{
+    const PdfProbe pdf(pdfPath);
+    double left = 1e9;
+    for (const PdfWord &word : pdf.wordsOf(1))
+        left = std::min(left, word.box.left());
+    return left;
+}
+
+} // namespace
+
+class tst_PrintRoutine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void noPrinterIsReported();
+    void cancelledPrintDialogPrintsNothing();
+    void exportWritesTheReport();
+    void exportCancelledWritesNothing();
+    void exportToAnUnwritablePlaceIsReported();
+    void marginsFileIsReadAtEachExport();
+    void pageSetupChoicesApplyToTheNextExport();
+    void suggestedPdfPath_data();
+    void suggestedPdfPath();
+    void pageSetupDialogKeepsFileMarginsUnlessChanged();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_programFolder;
+    std::unique_ptr<RecordingPrintPrompts> m_prompts;
+    std::unique_ptr<PrintRoutine> m_routine;
+    SwaleProject m_project;
+};
+
+void tst_PrintRoutine::init()
+{
+    m_programFolder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_programFolder->isValid());
+    m_prompts = std::make_unique<RecordingPrintPrompts>();
+    m_routine = std::make_unique<PrintRoutine>(*m_prompts, m_programFolder->path());
+    m_project = calculatedProject(1);
+}
+
+void tst_PrintRoutine::noPrinterIsReported()
+{
+    m_prompts->printerInstalled = false;
+    QVERIFY(!m_routine->printReport(m_project, QString()));
+    QCOMPARE(m_prompts->messages.size(), size_t(1));
+    QCOMPARE(m_prompts->messages[0].text,
+             QStringLiteral("Unable to establish connection with printer."));
+    QCOMPARE(m_prompts->messages[0].title, QStringLiteral("Error"));
+    QCOMPARE(m_prompts->messages[0].style, 48);
+    QCOMPARE(m_prompts->printerDialogs, 0);
+}
+
+void tst_PrintRoutine::cancelledPrintDialogPrintsNothing()
+{
+    m_prompts->printerInstalled = true;
+    m_prompts->printerAnswer = false;
+    QVERIFY(!m_routine->printReport(m_project, QString()));
+    QCOMPARE(m_prompts->printerDialogs, 1);
+    QVERIFY(m_prompts->messages.empty());
+}
+
+void tst_PrintRoutine::exportWritesTheReport()
+{
+    const QString path = m_programFolder->filePath(QStringLiteral("out.pdf"));
+    m_prompts->pdfAnswer = path;
+    QVERIFY(m_routine->exportPdf(m_project, QStringLiteral("/jobs/route9.swl"), QString()));
+    QCOMPARE(m_prompts->suggested, QStringLiteral("/jobs/route9.pdf"));
+    QVERIFY(m_prompts->messages.empty());
+    const PdfProbe pdf(path);
+    QVERIFY2(pdf.isValid(), qPrintable(pdf.errorString()));
+    QVERIFY(pdf.text().contains(QStringLiteral("Project File /jobs/route9.swl")));
+    QVERIFY(pdf.text().contains(QStringLiteral("Summary Of Results")));
+}
+
+void tst_PrintRoutine::exportCancelledWritesNothing()
+{
+    m_prompts->pdfAnswer = QString();
+    QVERIFY(!m_routine->exportPdf(m_project, QString(), m_programFolder->path()));
+    QVERIFY(m_prompts->messages.empty());
+    QCOMPARE(m_prompts->suggested, m_programFolder->filePath(QStringLiteral("Swale report.pdf")));
+}
+
+void tst_PrintRoutine::exportToAnUnwritablePlaceIsReported()
+{
+    const QString path = m_programFolder->filePath(QStringLiteral("missing/out.pdf"));
+    m_prompts->pdfAnswer = path;
+    QVERIFY(!m_routine->exportPdf(m_project, QString(), QString()));
+    QCOMPARE(m_prompts->messages.size(), size_t(1));
+    QCOMPARE(m_prompts->messages[0].text, QStringLiteral("Error writing to file:\r") + path);
+    QCOMPARE(m_prompts->messages[0].title, QStringLiteral("Error"));
+    QVERIFY(!QFile::exists(path));
+}
+
+void tst_PrintRoutine::marginsFileIsReadAtEachExport()
+{
+    const QString path = m_programFolder->filePath(QStringLiteral("out.pdf"));
+    m_prompts->pdfAnswer = path;
+
+    QVERIFY(m_routine->exportPdf(m_project, QString(), QString())); // no file: half an inch
+    QVERIFY(qAbs(leftmostWord(path) - 36) < 1.5);
+
+    writeMarginsFile(m_programFolder->path(), "1\r\n1500\r\n500\r\n500\r\n500\r\n");
+    QVERIFY(m_routine->exportPdf(m_project, QString(), QString()));
+    QVERIFY(qAbs(leftmostWord(path) - 108) < 1.5);
+
+    writeMarginsFile(m_programFolder->path(), "0\r\n5000\r\n1000\r\n1000\r\n1000\r\n"); // 50 mm
+    QVERIFY(m_routine->exportPdf(m_project, QString(), QString()));
+    QVERIFY(qAbs(leftmostWord(path) - 50 * 72 / 25.4) < 1.5);
+}
+
+void tst_PrintRoutine::pageSetupChoicesApplyToTheNextExport()
+{
+    writeMarginsFile(m_programFolder->path(), "1\r\n1500\r\n500\r\n500\r\n500\r\n");
+    ReportPageSetup chosen;
+    chosen.marginsChosen = true;
+    chosen.margins.Margin1 = 0.25f;
+    chosen.orientation = QPageLayout::Landscape;
+    m_prompts->pageSetupAnswer = chosen;
+    QVERIFY(m_routine->pageSetup());
+    QCOMPARE(m_prompts->offeredFileMargins.Margin1, 1.5f); // the dialog was offered the file's
+
+    const QString path = m_programFolder->filePath(QStringLiteral("out.pdf"));
+    m_prompts->pdfAnswer = path;
+    QVERIFY(m_routine->exportPdf(m_project, QString(), QString()));
+    QVERIFY(qAbs(leftmostWord(path) - 18) < 1.5);
+    const PdfProbe pdf(path);
+    QVERIFY(pdf.pageSize(1).width > pdf.pageSize(1).height);
+}
+
+void tst_PrintRoutine::suggestedPdfPath_data()
+{
+    QTest::addColumn<QString>("project");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("beside the project") << "/jobs/a/route 9.swl"
+                                        << "/docs"
+                                        << "/jobs/a/route 9.pdf";
+    QTest::newRow("dots in the name") << "/jobs/sta.10+00.swl"
+                                      << "/docs"
+                                      << "/jobs/sta.10+00.pdf";
+    QTest::newRow("untitled") << ""
+                              << "/docs"
+                              << "/docs/Swale report.pdf";
+}
+
+void tst_PrintRoutine::suggestedPdfPath()
+{
+    QFETCH(QString, project);
+    QFETCH(QString, folder);
+    QFETCH(QString, expected);
+    QCOMPARE(::suggestedPdfPath(project, folder), expected);
+}
+
+void tst_PrintRoutine::pageSetupDialogKeepsFileMarginsUnlessChanged()
+{
+    PageMargins file;
+    file.ScaleCode = kScaleMillimetres;
+    file.Margin1 = 20.0f;
+    file.Margin2 = 15.0f;
+    file.Margin3 = 10.0f;
+    file.Margin4 = 12.5f;
+    PageSetupDialog dialog(ReportPageSetup(), file);
+    QVERIFY(!dialog.setup().marginsChosen);
+    QCOMPARE(dialog.setup().margins.Margin4, 12.5f);
+
+    const QList<QDoubleSpinBox *> boxes = dialog.findChildren<QDoubleSpinBox *>();
+    QCOMPARE(boxes.size(), 4);
+    QCOMPARE(boxes[0]->suffix(), QStringLiteral(" mm"));
+    boxes[0]->setValue(30.0); // left
+    dialog.setOrientation(QPageLayout::Landscape);
+    dialog.setPageSize(QPageSize::A4);
+    const ReportPageSetup changed = dialog.setup();
+    QVERIFY(changed.marginsChosen);
+    QCOMPARE(changed.margins.Margin1, 30.0f);
+    QCOMPARE(changed.margins.Margin3, 10.0f);
+    QCOMPARE(changed.orientation, QPageLayout::Landscape);
+    QCOMPARE(changed.pageSize.id(), QPageSize::A4);
+
+    dialog.setMargins(file); // what Reset does
+    QVERIFY(!dialog.setup().marginsChosen);
+}
+
+int runPrintRoutineTests(int argc, char **argv)
+{
+    tst_PrintRoutine test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_PrintRoutine.moc"

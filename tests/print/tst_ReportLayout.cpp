@@ -1,0 +1,391 @@
+#include "../calc/ProjectFixtures.h"
+
+#include "ReportContent.h"
+#include "ReportFixtures.h"
+#include "ReportLayout.h"
+#include "TextFitting.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+const double kEpsilon = 1e-6;
+
+std::vector<ReportPage> layoutOf(const SwaleProject &project, const PageFrame &frame,
+                                 const QString &fileName = QStringLiteral("/data/roadside.swl"))
+{
+    return layoutReport(buildReportContent(project, fileName), frame, FixedMeasure());
+}
+
+QStringList textsOf(const ReportPage &page)
+{
+    QStringList texts;
+    for (const PlacedText &text : page.texts)
+        texts.append(text.text);
+    return texts;
+}
+
+QString headingsOf(const ReportSection &section)
+{
+    QStringList headings;
+    for (const ReportGroup &group : section.groups)
+        headings.append(group.heading);
+    return headings.join(QLatin1Char('|'));
+}
+
+int fieldCount(const ReportSection &section)
+{
+    int count = 0;
+    for (const ReportGroup &group : section.groups)
+        count += static_cast<int>(group.fields.size());
+    return count;
+}
+
+bool isPageFurniture(const PlacedText &text)
+{
+    return text.font == ReportFont::Furniture && !text.text.startsWith(QStringLiteral("End of"));
+}
+
+} // namespace
+
+class tst_ReportLayout : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void wrapText_data();
+    void wrapText();
+    void elideText_data();
+    void elideText();
+    void usableMargins_data();
+    void usableMargins();
+
+    void contentFollowsTheChosenMethods_data();
+    void contentFollowsTheChosenMethods();
+    void contentKeepsValuesAsTyped();
+    void contentWithoutResultsSaysSo();
+
+    void everyTextStaysInsideTheMargins_data();
+    void everyTextStaysInsideTheMargins();
+    void everyPageIsNumbered();
+    void longRatingCurveBreaksWithItsHeaderRepeated();
+    void headingsNeverEndAPage();
+    void marginsMoveTheText();
+};
+
+// Widths in characters of the body font (6 units each in FixedMeasure).
+void tst_ReportLayout::wrapText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("characters");
+    QTest::addColumn<QString>("expected"); // lines joined by "|"
+
+    QTest::newRow("fits on one line") << "Grass lined" << 20 << "Grass lined";
+    QTest::newRow("breaks at blanks")
+            << "Dense Bermuda grass sod" << 13 << "Dense Bermuda|grass sod";
+    QTest::newRow("cuts a word longer than the line") << "abcdefghij" << 4 << "abcd|efgh|ij";
+    QTest::newRow("long word between short ones")
+            << "ab abcdefghij xy" << 4 << "ab|abcd|efgh|ij|xy";
+    QTest::newRow("empty text keeps one empty line") << "" << 10 << "";
+    QTest::newRow("runs of blanks collapse") << "a   b" << 10 << "a b";
+    QTest::newRow("narrower than a character still moves on") << "abc" << 0 << "a|b|c";
+}
+
+void tst_ReportLayout::wrapText()
+{
+    QFETCH(QString, text);
+    QFETCH(int, characters);
+    QFETCH(QString, expected);
+    const double width = characters * FixedMeasure::characterWidth(ReportFont::Body);
+    QCOMPARE(::wrapText(text, ReportFont::Body, width, FixedMeasure()).join(QLatin1Char('|')),
+             expected);
+}
+
+void tst_ReportLayout::elideText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("width");
+    QTest::addColumn<bool>("keepLeft");
+    QTest::addColumn<QString>("expected");
+
+    const QString ellipsis(QChar(0x2026));
+    QTest::newRow("fits unchanged") << "Route 9" << 42.0 << true << "Route 9";
+    // 48 units: the ellipsis takes 6, seven characters of 6 fill the rest.
+    QTest::newRow("cut on the right")
+            << "County Road 12 swale" << 48.0 << true << QStringLiteral("County ") + ellipsis;
+    QTest::newRow("cut on the left keeps the file name")
+            << "/home/u/file.swl" << 48.0 << false << ellipsis + QStringLiteral("ile.swl");
+    QTest::newRow("no room even for the ellipsis") << "abc" << 3.0 << true << "";
+}
+
+void tst_ReportLayout::elideText()
+{
+    QFETCH(QString, text);
+    QFETCH(double, width);
+    QFETCH(bool, keepLeft);
+    QFETCH(QString, expected);
+    QCOMPARE(::elideText(text, ReportFont::Body, width,
+                         keepLeft ? ElideSide::Right : ElideSide::Left, FixedMeasure()),
+             expected);
+}
+
+void tst_ReportLayout::usableMargins_data()
+{
+    QTest::addColumn<QMarginsF>("margins");
+    QTest::addColumn<QMarginsF>("expected");
+
+    QTest::newRow("half inch kept") << QMarginsF(36, 36, 36, 36) << QMarginsF(36, 36, 36, 36);
+    QTest::newRow("negative counts as none")
+            << QMarginsF(-5, 36, 36, -1) << QMarginsF(0, 36, 36, 0);
+    // 612 pt wide: at most 408 pt of margins, shared in the ratio the file gave (1 : 3).
+    QTest::newRow("too wide scaled together")
+            << QMarginsF(200, 36, 600, 36) << QMarginsF(102, 36, 306, 36);
+    // 792 pt high: at most 528 pt.
+    QTest::newRow("too tall scaled together")
+            << QMarginsF(36, 1000, 36, 1000) << QMarginsF(36, 264, 36, 264);
+}
+
+void tst_ReportLayout::usableMargins()
+{
+    QFETCH(QMarginsF, margins);
+    QFETCH(QMarginsF, expected);
+    const QMarginsF usable = ::usableMargins({ QSizeF(612, 792), margins });
+    QCOMPARE(usable.left(), expected.left());
+    QCOMPARE(usable.top(), expected.top());
+    QCOMPARE(usable.right(), expected.right());
+    QCOMPARE(usable.bottom(), expected.bottom());
+}
+
+void tst_ReportLayout::contentFollowsTheChosenMethods_data()
+{
+    QTest::addColumn<int>("method");
+    QTest::addColumn<int>("flow");
+    QTest::addColumn<QString>("inputGroups");
+    QTest::addColumn<QString>("resultGroups");
+    QTest::addColumn<int>("resultCount");
+
+    // Result boxes shown: methods 1 and 2 all 18 (runoff depth only with the hydrograph),
+    // method 3 drops length and infiltration boxes 14, 15, 18, method 4 every infiltration box.
+    QTest::newRow("1 required length, hydrograph")
+            << 1 << 1
+            << "Solution Method|Channel Geometry|Efficiency|Channel Flow|Runoff Hydrograph|"
+               "Flow Velocity|Aquifer"
+            << "Summary Of Results|Runoff Hydrograph Calculations|Channel Geometry Calculations|"
+               "Protection Against Erosion|Infiltration Calculations"
+            << 18;
+    QTest::newRow("2 efficiency, given flow")
+            << 2 << 2
+            << "Solution Method|Channel Geometry|Channel Flow|Channel Flow Rate|Flow Velocity|"
+               "Aquifer"
+            << "Summary Of Results|Channel Inflow Calculations|Channel Geometry Calculations|"
+               "Protection Against Erosion|Infiltration Calculations"
+            << 17;
+    QTest::newRow("3 inlet, hydrograph")
+            << 3 << 1
+            << "Solution Method|Channel Geometry|Channel Flow|Runoff Hydrograph|Flow Velocity|"
+               "Inlet Rating Curve"
+            << "Summary Of Results|Runoff Hydrograph Calculations|Channel Geometry Calculations|"
+               "Protection Against Erosion|Inlet Dicharge Calculations"
+            << 14;
+    QTest::newRow("4 without inlet, given flow")
+            << 4 << 2
+            << "Solution Method|Channel Geometry|Channel Flow|Channel Flow Rate|Flow Velocity"
+            << "Summary Of Results|Channel Inflow Calculations|Channel Geometry Calculations|"
+               "Protection Against Erosion"
+            << 10;
+}
+
+void tst_ReportLayout::contentFollowsTheChosenMethods()
+{
+    QFETCH(int, method);
+    QFETCH(int, flow);
+    QFETCH(QString, inputGroups);
+    QFETCH(QString, resultGroups);
+    QFETCH(int, resultCount);
+
+    const ReportContent content = buildReportContent(calculatedProject(method, flow), QString());
+    QCOMPARE(content.sections.size(), size_t(2));
+    QCOMPARE(content.sections[0].heading, QStringLiteral("I.  INPUT DATA"));
+    QCOMPARE(content.sections[1].heading, QStringLiteral("II.  RESULTS"));
+    QCOMPARE(headingsOf(content.sections[0]), inputGroups);
+    QCOMPARE(headingsOf(content.sections[1]), resultGroups);
+    QCOMPARE(fieldCount(content.sections[1]), resultCount);
+    QCOMPARE(content.titleFields.back().value, QStringLiteral("<untitled>"));
+
+    const ReportGroup &geometry = content.sections[0].groups[1];
+    QCOMPARE(geometry.fields.front().caption,
+             method == 2 ? QStringLiteral("Swale length, [L]")
+                         : QStringLiteral("Bottom width of channel, [B]"));
+}
+
+void tst_ReportLayout::contentKeepsValuesAsTyped()
+{
+    SwaleProject project = calculatedProject(1);
+    project.inputText[5] = "  4.50 ";
+    project.inputText[10] = "1,500";
+    project.inputText[17] = "Sod over clay";
+    const ReportContent content = buildReportContent(project, QStringLiteral("/p/a.swl"));
+    const ReportField &width = content.sections[0].groups[1].fields[0];
+    QCOMPARE(width.value, QStringLiteral("4.50"));
+    QCOMPARE(width.unit, QStringLiteral("ft"));
+    QVERIFY(width.numeric);
+    const ReportField &area = content.sections[0].groups[4].fields[0];
+    QCOMPARE(area.value, QStringLiteral("1,500"));
+    const ReportField &lining = content.sections[0].groups[5].fields[0];
+    QCOMPARE(lining.value, QStringLiteral("Sod over clay"));
+    QVERIFY(!lining.numeric);
+    QCOMPARE(content.sections[0].groups[0].choice,
+             QStringLiteral("Calculate required length of channel (with infiltration)"));
+    QCOMPARE(content.sections[0].groups[3].choice,
+             QStringLiteral("Calculate using runoff hydrograph"));
+    QCOMPARE(content.jobName, QStringLiteral("Route 9 swale"));
+}
+
+void tst_ReportLayout::contentWithoutResultsSaysSo()
+{
+    const SwaleProject project = validProject(1); // never calculated
+    const ReportContent content = buildReportContent(project, QString());
+    QVERIFY(content.sections[1].groups.empty());
+    QVERIFY(!content.sections[1].note.isEmpty());
+}
+
+void tst_ReportLayout::everyTextStaysInsideTheMargins_data()
+{
+    QTest::addColumn<QSizeF>("paper");
+    QTest::addColumn<double>("margin");
+
+    QTest::newRow("letter, half inch") << QSizeF(612, 792) << 36.0;
+    QTest::newRow("letter, two inches") << QSizeF(612, 792) << 144.0;
+    QTest::newRow("landscape, one inch") << QSizeF(792, 612) << 72.0;
+}
+
+// A job name, a lining type and a file path far longer than a line wrap or shorten; nothing
+// runs past a margin.
+void tst_ReportLayout::everyTextStaysInsideTheMargins()
+{
+    QFETCH(QSizeF, paper);
+    QFETCH(double, margin);
+
+    SwaleProject project = calculatedProject(3);
+    setLongRatingCurve(project, 80);
+    project.inputText[1] = std::string(30, 'J') + " " + std::string(200, 'x') + " end of job name";
+    project.inputText[17]
+            = "Turf reinforcement mat over compacted clay liner with a long description";
+    const QString path = QStringLiteral("/very/long/folder/name/") + QString(150, QLatin1Char('p'))
+            + QStringLiteral(".swl");
+    const PageFrame frame { paper, QMarginsF(margin, margin, margin, margin) };
+    const FixedMeasure measure;
+    const std::vector<ReportPage> pages = layoutOf(project, frame, path);
+    QVERIFY(pages.size() >= 2);
+    for (const ReportPage &page : pages) {
+        for (const PlacedText &text : page.texts) {
+            const QString where = text.text.left(40);
+            QVERIFY2(text.rect.left() >= margin - kEpsilon, qPrintable(where));
+            QVERIFY2(text.rect.right() <= paper.width() - margin + kEpsilon, qPrintable(where));
+            QVERIFY2(text.rect.top() >= margin - kEpsilon, qPrintable(where));
+            QVERIFY2(text.rect.bottom() <= paper.height() - margin + kEpsilon, qPrintable(where));
+            QVERIFY2(measure.width(text.text, text.font) <= text.rect.width() + kEpsilon,
+                     qPrintable(where));
+        }
+    }
+    const QString wrappedJob = textsOf(pages.front()).join(QLatin1Char(' '));
+    QVERIFY(wrappedJob.contains(QStringLiteral("end of job name")));
+}
+
+void tst_ReportLayout::everyPageIsNumbered()
+{
+    SwaleProject project = calculatedProject(3);
+    setLongRatingCurve(project, 120);
+    const std::vector<ReportPage> pages = layoutOf(project, letterFrame());
+    const int count = static_cast<int>(pages.size());
+    QVERIFY(count >= 3);
+    for (int i = 0; i < count; ++i) {
+        const QString expected = QStringLiteral("Page %1 of %2").arg(i + 1).arg(count);
+        QCOMPARE(textsOf(pages[static_cast<size_t>(i)]).count(expected), 1);
+    }
+}
+
+// Discharges "k.0625" are unique to row k + 1: every row appears once, in order, and every page
+// that holds rows shows the column titles, continuation pages under "(continued)".
+void tst_ReportLayout::longRatingCurveBreaksWithItsHeaderRepeated()
+{
+    SwaleProject project = calculatedProject(3);
+    setLongRatingCurve(project, 150);
+    const std::vector<ReportPage> pages = layoutOf(project, letterFrame());
+
+    std::vector<int> discharges;
+    int pagesWithRows = 0;
+    for (size_t p = 0; p < pages.size(); ++p) {
+        const QStringList texts = textsOf(pages[p]);
+        const size_t before = discharges.size();
+        for (const QString &text : texts) {
+            if (text.endsWith(QStringLiteral(".0625")))
+                discharges.push_back(text.chopped(5).toInt());
+        }
+        if (discharges.size() == before)
+            continue;
+        ++pagesWithRows;
+        QVERIFY(texts.contains(QStringLiteral("Discharge Rate")));
+        QVERIFY(texts.contains(QStringLiteral("(inches)")));
+        QCOMPARE(texts.contains(QStringLiteral("Inlet Rating Curve (continued)")),
+                 pagesWithRows > 1);
+    }
+    QVERIFY(pagesWithRows >= 3);
+    QCOMPARE(discharges.size(), size_t(149));
+    for (size_t i = 0; i < discharges.size(); ++i)
+        QCOMPARE(discharges[i], static_cast<int>(i) + 1);
+}
+
+// The lowest text of a page's body is never a heading: headings move to the page they head.
+void tst_ReportLayout::headingsNeverEndAPage()
+{
+    for (double margin : { 36.0, 100.0, 170.0, 220.0 }) {
+        SwaleProject project = calculatedProject(3);
+        setLongRatingCurve(project, 40);
+        const std::vector<ReportPage> pages = layoutOf(project, letterFrame(margin));
+        for (size_t p = 0; p + 1 < pages.size(); ++p) {
+            const PlacedText *lowest = nullptr;
+            for (const PlacedText &text : pages[p].texts) {
+                if (!isPageFurniture(text) && (!lowest || text.rect.top() > lowest->rect.top()))
+                    lowest = &text;
+            }
+            QVERIFY(lowest);
+            QVERIFY2(lowest->font != ReportFont::Group && lowest->font != ReportFont::Section,
+                     qPrintable(QStringLiteral("margin %1, page %2 ends with %3")
+                                        .arg(margin)
+                                        .arg(p + 1)
+                                        .arg(lowest->text)));
+        }
+    }
+}
+
+void tst_ReportLayout::marginsMoveTheText()
+{
+    const SwaleProject project = calculatedProject(1);
+    for (const QMarginsF &margins :
+         { QMarginsF(36, 36, 36, 36), QMarginsF(108, 50, 20, 90), QMarginsF(20, 144, 72, 36) }) {
+        const std::vector<ReportPage> pages = layoutOf(project, { QSizeF(612, 792), margins });
+        double left = 1e9, top = 1e9, right = 0, bottom = 0;
+        for (const PlacedText &text : pages.front().texts) {
+            left = std::min(left, text.rect.left());
+            top = std::min(top, text.rect.top());
+            right = std::max(right, text.rect.right());
+            bottom = std::max(bottom, text.rect.bottom());
+        }
+        QCOMPARE(left, margins.left()); // the title block starts at the left margin
+        QCOMPARE(top, margins.top()); // the page header at the top margin
+        QCOMPARE(right, 612 - margins.right()); // the header's job name ends at the right margin
+        QCOMPARE(bottom, 792 - margins.bottom()); // the footer sits on the bottom margin
+    }
+}
+
+int runReportLayoutTests(int argc, char **argv)
+{
+    tst_ReportLayout test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_ReportLayout.moc"
