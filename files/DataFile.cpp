@@ -48,6 +48,28 @@ bool parseShortInteger(const std::string &line, int &value)
     return true;
 }
 
+// Reads the whole file, at most DataFile::kMaxFileSize bytes. Devices and pipes report no
+// size, so they are read in pieces until their end or one byte past the limit.
+bool readBounded(QFile &file, QByteArray &bytes)
+{
+    if (!file.isSequential()) {
+        if (file.size() > DataFile::kMaxFileSize)
+            return false;
+        bytes = file.readAll();
+        return file.error() == QFileDevice::NoError;
+    }
+    constexpr qint64 kPiece = 64 * 1024;
+    while (bytes.size() <= DataFile::kMaxFileSize) {
+        const QByteArray piece = file.read(kPiece);
+        if (file.error() != QFileDevice::NoError)
+            return false;
+        if (piece.isEmpty())
+            return true;
+        bytes += piece;
+    }
+    return false;
+}
+
 std::string decodeFileBytes(std::string bytes)
 {
     if (bytes.compare(0, kUtf8ByteOrderMark.size(), kUtf8ByteOrderMark) == 0) {
@@ -108,12 +130,11 @@ bool DataFile::OpenForRead(const std::string &path)
         return fail("the path names a folder");
     if (!file.open(QIODevice::ReadOnly))
         return fail(file.errorString().toStdString());
-    // Read one byte past the limit: devices and pipes report no size, so the size is measured.
-    const QByteArray bytes = file.read(kMaxFileSize + 1);
-    if (bytes.size() > kMaxFileSize)
-        return fail("the file is too large to be a project or settings file");
-    if (file.error() != QFileDevice::NoError)
-        return fail(file.errorString().toStdString());
+    QByteArray bytes;
+    if (!readBounded(file, bytes))
+        return fail(file.error() != QFileDevice::NoError
+                            ? file.errorString().toStdString()
+                            : "the file is too large to be a project or settings file");
     if (bytes.contains('\0'))
         return fail("the file holds binary data, not text");
     m_content = decodeFileBytes(bytes.toStdString());
