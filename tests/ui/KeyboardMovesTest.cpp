@@ -1,0 +1,154 @@
+#include "KeyboardMoves.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+// How GoogleTest names a target in a failure message: "box(17)", "optCalculate(2)".
+void PrintTo(const MoveTarget &target, std::ostream *out)
+{
+    static const char *const kNames[] = { "nothing", "box", "optCalculate", "optChannelFlow",
+                                          "grid", "output" };
+    *out << kNames[static_cast<int>(target.kind)] << "(" << target.index << ")";
+}
+
+namespace {
+
+using Kind = MoveTarget::Kind;
+
+MoveTarget box(int index) { return { Kind::InputBox, index }; }
+MoveTarget method(int index) { return { Kind::SolutionMethodOption, index }; }
+MoveTarget flow(int index) { return { Kind::ChannelFlowOption, index }; }
+MoveTarget output(int index) { return { Kind::OutputBox, index }; }
+const MoveTarget kNothing{};
+const MoveTarget kGrid{ Kind::RatingCurveGrid, 0 };
+
+// One row of the movement table for given choices: where Down, Enter and Up lead.
+struct InputMoveCase
+{
+    const char *name;
+    int from, solutionMethod, channelFlowMethod;
+    MoveTarget down, enter, up;
+};
+
+const InputMoveCase kInputMoves[] = {
+    { "job name: nothing above", 1, 1, 1, box(2), box(2), kNothing },
+    { "engineer", 2, 1, 1, box(3), box(3), box(1) },
+    { "date to the chosen method", 3, 3, 1, method(3), method(3), box(2) },
+    { "date with no method chosen", 3, 0, 1, kNothing, kNothing, box(2) },
+    { "length back to the chosen method", 4, 2, 1, box(5), box(5), method(2) },
+    { "bottom width back to length (method 2)", 5, 2, 1, box(6), box(6), box(4) },
+    { "bottom width back to the method (method 1)", 5, 1, 1, box(6), box(6), method(1) },
+    { "bottom width back to the method (method 4)", 5, 4, 2, box(6), box(6), method(4) },
+    { "left slope", 6, 1, 1, box(7), box(7), box(5) },
+    { "right slope", 7, 1, 1, box(8), box(8), box(6) },
+    { "channel slope to efficiency (method 1)", 8, 1, 2, box(9), box(9), box(7) },
+    { "channel slope to the chosen flow (method 2)", 8, 2, 2, flow(2), flow(2), box(7) },
+    { "channel slope with no flow chosen", 8, 3, 0, kNothing, kNothing, box(7) },
+    { "efficiency to the chosen flow", 9, 1, 1, flow(1), flow(1), box(8) },
+    { "drainage area back to the chosen flow", 10, 1, 1, box(11), box(11), flow(1) },
+    { "runoff coefficient", 11, 1, 1, box(12), box(12), box(10) },
+    { "rainfall intensity", 12, 1, 1, box(13), box(13), box(11) },
+    { "storm duration", 13, 1, 1, box(14), box(14), box(12) },
+    { "time of concentration skips the flow-rate boxes", 14, 1, 1, box(17), box(17), box(13) },
+    { "flow rate: Enter stays, Down moves", 15, 1, 2, box(16), kNothing, flow(2) },
+    { "flow duration: Enter stays, Down moves", 16, 1, 2, box(17), kNothing, box(15) },
+    { "lining back to the hydrograph", 17, 1, 1, box(18), box(18), box(14) },
+    { "lining back to the flow rate", 17, 1, 2, box(18), box(18), box(16) },
+    { "lining with no flow chosen", 17, 1, 0, box(18), box(18), kNothing },
+    { "permissible velocity", 18, 1, 1, box(19), box(19), box(17) },
+    { "roughness to the aquifer (method 1)", 19, 1, 1, box(20), box(20), box(18) },
+    { "roughness to the aquifer (method 2)", 19, 2, 1, box(20), box(20), box(18) },
+    { "roughness to the grid (method 3)", 19, 3, 1, kGrid, kGrid, box(18) },
+    { "roughness round to the job name (method 4)", 19, 4, 1, box(1), box(1), box(18) },
+    { "infiltration rate", 20, 1, 1, box(21), box(21), box(19) },
+    { "safety factor", 21, 1, 1, box(22), box(22), box(20) },
+    { "porosity", 22, 1, 1, box(23), box(23), box(21) },
+    { "water table round to the job name", 23, 1, 1, box(1), box(1), box(22) },
+};
+
+TEST(KeyboardMoves, InputBoxesFollowTheTable)
+{
+    for (const InputMoveCase &row : kInputMoves) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(KeyboardMoves::fromInputBox(row.from, MoveKey::Down, row.solutionMethod,
+                                              row.channelFlowMethod),
+                  row.down);
+        EXPECT_EQ(KeyboardMoves::fromInputBox(row.from, MoveKey::Enter, row.solutionMethod,
+                                              row.channelFlowMethod),
+                  row.enter);
+        EXPECT_EQ(KeyboardMoves::fromInputBox(row.from, MoveKey::Up, row.solutionMethod,
+                                              row.channelFlowMethod),
+                  row.up);
+    }
+}
+
+TEST(KeyboardMoves, BoxesOutsideTheTableGoNowhere)
+{
+    for (int from : { 0, 24, -1 })
+        EXPECT_EQ(KeyboardMoves::fromInputBox(from, MoveKey::Down, 1, 1), kNothing) << from;
+}
+
+TEST(KeyboardMoves, TodayButtonAnswersDownAndUp)
+{
+    EXPECT_EQ(KeyboardMoves::fromTodayButton(MoveKey::Down), box(4));
+    EXPECT_EQ(KeyboardMoves::fromTodayButton(MoveKey::Up), box(3));
+    EXPECT_EQ(KeyboardMoves::fromTodayButton(MoveKey::Enter), kNothing);
+}
+
+TEST(KeyboardMoves, EnterOnAnOptionGoesToTheFirstBoxOfTheChosenMode)
+{
+    const struct
+    {
+        int chosen;
+        MoveTarget expected;
+    } methodRows[] = { { 1, box(5) }, { 2, box(4) }, { 3, box(5) }, { 4, box(5) }, { 0, kNothing } };
+    for (const auto &row : methodRows) {
+        EXPECT_EQ(KeyboardMoves::fromSolutionMethodOption(MoveKey::Enter, row.chosen),
+                  row.expected)
+                << "method " << row.chosen;
+    }
+    EXPECT_EQ(KeyboardMoves::fromChannelFlowOption(MoveKey::Enter, 1), box(10));
+    EXPECT_EQ(KeyboardMoves::fromChannelFlowOption(MoveKey::Enter, 2), box(15));
+    EXPECT_EQ(KeyboardMoves::fromChannelFlowOption(MoveKey::Enter, 0), kNothing);
+    // The arrow keys stay with the option group, which moves between its own buttons.
+    EXPECT_EQ(KeyboardMoves::fromSolutionMethodOption(MoveKey::Down, 2), kNothing);
+    EXPECT_EQ(KeyboardMoves::fromChannelFlowOption(MoveKey::Up, 1), kNothing);
+}
+
+struct OutputMoveCase
+{
+    const char *name;
+    int from, solutionMethod, channelFlowMethod;
+    MoveTarget forward, backward;
+};
+
+const OutputMoveCase kOutputMoves[] = {
+    { "first box: nothing above", 1, 1, 1, output(2), kNothing },
+    { "middle box", 7, 1, 1, output(8), output(6) },
+    { "runoff depth hidden for a given flow rate", 5, 1, 2, output(7), output(4) },
+    { "back over the hidden runoff depth", 7, 1, 2, output(8), output(5) },
+    { "last box round to the first", 18, 1, 1, output(1), output(17) },
+    { "method 4 starts at box 3", 3, 4, 1, output(4), kNothing },
+    { "method 4 ends at box 13, round to box 3", 13, 4, 1, output(3), output(12) },
+    { "method 3 skips the infiltration boxes", 13, 3, 1, output(16), output(12) },
+    { "method 3 round from box 17 to box 2", 17, 3, 1, output(2), output(16) },
+};
+
+TEST(KeyboardMoves, OutputBoxesMoveAmongTheShownOnes)
+{
+    for (const OutputMoveCase &row : kOutputMoves) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(KeyboardMoves::fromOutputBox(row.from, MoveKey::Down, row.solutionMethod,
+                                               row.channelFlowMethod),
+                  row.forward);
+        EXPECT_EQ(KeyboardMoves::fromOutputBox(row.from, MoveKey::Enter, row.solutionMethod,
+                                               row.channelFlowMethod),
+                  row.forward);
+        EXPECT_EQ(KeyboardMoves::fromOutputBox(row.from, MoveKey::Up, row.solutionMethod,
+                                               row.channelFlowMethod),
+                  row.backward);
+    }
+}
+
+} // namespace
