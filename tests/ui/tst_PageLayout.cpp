@@ -1,0 +1,271 @@
+#include "PageFixtures.h"
+#include "PageLayout.h"
+#include "tvrEditBox.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+// Names of the shown children of `panel`, from the top of the page down.
+QStringList shownFromTheTop(const QWidget *panel)
+{
+    QList<QWidget *> shown;
+    for (QWidget *child : panel->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!child->isHidden() && !qobject_cast<QPushButton *>(child))
+            shown.append(child);
+    }
+    std::stable_sort(shown.begin(), shown.end(),
+                     [](QWidget *a, QWidget *b) { return a->y() < b->y(); });
+    QStringList names;
+    for (QWidget *child : shown)
+        names << child->objectName();
+    return names;
+}
+
+QStringList boxes(const char *name, int first, int last)
+{
+    QStringList names;
+    for (int i = first; i <= last; ++i)
+        names << QLatin1String(name) + QLatin1Char('_') + QString::number(i);
+    return names;
+}
+
+// The Input Data page from the top, as the page's section table lists it for the choices.
+QStringList expectedInputOrder(int method, int flow)
+{
+    QStringList names = boxes("txtInput", 1, 3);
+    names << QStringLiteral("lblInput_1") << QStringLiteral("grpSolutionMethod")
+          << QStringLiteral("lblInput_2");
+    if (method == 2)
+        names << QStringLiteral("txtInput_4");
+    names << boxes("txtInput", 5, 8);
+    if (method == 1)
+        names << QStringLiteral("lblInput_3") << QStringLiteral("txtInput_9");
+    names << QStringLiteral("lblInput_4") << QStringLiteral("grpChannelFlow");
+    if (flow == 1)
+        names << QStringLiteral("lblInput_5") << boxes("txtInput", 10, 14);
+    if (flow == 2)
+        names << QStringLiteral("lblInput_6") << boxes("txtInput", 15, 16);
+    names << QStringLiteral("lblInput_7") << boxes("txtInput", 17, 19);
+    if (method == 1 || method == 2)
+        names << QStringLiteral("lblInput_8") << boxes("txtInput", 20, 23);
+    if (method == 3 || method == 4)
+        names << QStringLiteral("lblInput_9") << QStringLiteral("grdRatingCurve");
+    return names;
+}
+
+QStringList expectedResultsOrder(int method, int flow)
+{
+    const bool infiltration = method == 1 || method == 2;
+    QStringList names{ QStringLiteral("lblOutput_1") };
+    if (infiltration)
+        names << QStringLiteral("txtOutput_1");
+    if (infiltration || method == 3)
+        names << QStringLiteral("txtOutput_2");
+    names << QStringLiteral("txtOutput_3") << QStringLiteral("lblOutput_2")
+          << boxes("txtOutput", 4, 5);
+    if (flow == 1)
+        names << QStringLiteral("txtOutput_6");
+    names << QStringLiteral("lblOutput_3") << boxes("txtOutput", 7, 12)
+          << QStringLiteral("lblOutput_4") << QStringLiteral("txtOutput_13");
+    if (infiltration || method == 3) {
+        names << QStringLiteral("lblOutput_5");
+        if (infiltration)
+            names << boxes("txtOutput", 14, 15);
+        names << boxes("txtOutput", 16, 17);
+        if (infiltration)
+            names << QStringLiteral("txtOutput_18");
+    }
+    return names;
+}
+
+// Every shown child lies below the one above it, and inside the content panel.
+void verifyNoOverlap(const QWidget *panel)
+{
+    QList<QWidget *> shown;
+    for (QWidget *child : panel->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!child->isHidden() && !qobject_cast<QPushButton *>(child))
+            shown.append(child);
+    }
+    std::sort(shown.begin(), shown.end(), [](QWidget *a, QWidget *b) { return a->y() < b->y(); });
+    for (int i = 1; i < shown.size(); ++i) {
+        QVERIFY2(shown[i]->y() > shown[i - 1]->geometry().bottom(),
+                 qPrintable(shown[i]->objectName() + " overlaps " + shown[i - 1]->objectName()));
+    }
+    for (QWidget *child : shown)
+        QVERIFY2(panel->rect().contains(child->geometry()), qPrintable(child->objectName()));
+}
+
+// The value fields of the shown boxes start at one x.
+void verifyAlignedValues(const QWidget *panel, const char *name)
+{
+    QSet<int> starts;
+    for (tvrEditBox *box : panel->findChildren<tvrEditBox *>()) {
+        if (!box->isHidden() && box->objectName().startsWith(QLatin1String(name)))
+            starts.insert(box->editor()->mapTo(panel, QPoint(0, 0)).x());
+    }
+    QCOMPARE(starts.size(), 1);
+}
+
+void verifyBeside(const QPushButton *button, const tvrEditBox *box)
+{
+    QCOMPARE(button->y(), box->y());
+    QCOMPARE(button->height(), box->height());
+    QVERIFY(button->x() > box->geometry().right());
+    QVERIFY(!button->isHidden());
+}
+
+void addModeRows()
+{
+    QTest::addColumn<int>("method");
+    QTest::addColumn<int>("flow");
+    for (int method = 1; method <= 4; ++method) {
+        for (int flow = 1; flow <= 2; ++flow)
+            QTest::addRow("method %d, flow %d", method, flow) << method << flow;
+    }
+    QTest::newRow("nothing chosen") << 0 << 0;
+}
+
+} // namespace
+
+class tst_PageLayout : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void inputPageShowsTheSectionsOfTheMode_data() { addModeRows(); }
+    void inputPageShowsTheSectionsOfTheMode();
+    void resultsPageShowsTheBoxesOfTheMode_data() { addModeRows(); }
+    void resultsPageShowsTheBoxesOfTheMode();
+    void resultCaptionsFollowTheChoices_data();
+    void resultCaptionsFollowTheChoices();
+    void captionsOfMethodFourAreLeftAsTheyWere();
+    void gapsComeFromTheSizeOfX();
+};
+
+void tst_PageLayout::inputPageShowsTheSectionsOfTheMode()
+{
+    QFETCH(int, method);
+    QFETCH(int, flow);
+    InputPageFixture page;
+    const PageUnits units(page.panel->fontMetrics());
+    // A previous mode must not leave anything behind: lay out the opposite mode first.
+    PageLayout::LayoutInputPage(page.controls, 2, 2, units);
+    const QSize size = PageLayout::LayoutInputPage(page.controls, method, flow, units);
+
+    QCOMPARE(shownFromTheTop(page.panel.get()), expectedInputOrder(method, flow));
+    QCOMPARE(page.panel->size(), size);
+    verifyNoOverlap(page.panel.get());
+    verifyAlignedValues(page.panel.get(), "txtInput");
+    verifyBeside(page.controls.cmdToday, page.controls.txtInput[3]);
+    verifyBeside(page.controls.cmdHelp[1], page.controls.txtInput[18]);
+    verifyBeside(page.controls.cmdHelp[2], page.controls.txtInput[19]);
+    // The page ends 2 plus a margin below its last item.
+    const QWidget *last = page.panel->findChild<QWidget *>(expectedInputOrder(method, flow).last());
+    QCOMPARE(size.height(), last->geometry().bottom() + 1 + 2 + units.margin);
+}
+
+void tst_PageLayout::resultsPageShowsTheBoxesOfTheMode()
+{
+    QFETCH(int, method);
+    QFETCH(int, flow);
+    ResultsPageFixture page;
+    const PageUnits units(page.panel->fontMetrics());
+    PageLayout::LayoutResultsPage(page.controls, 4, 2, units);
+    PageLayout::LayoutResultsPage(page.controls, method, flow, units);
+
+    QCOMPARE(shownFromTheTop(page.panel.get()), expectedResultsOrder(method, flow));
+    verifyNoOverlap(page.panel.get());
+    verifyAlignedValues(page.panel.get(), "txtOutput");
+}
+
+void tst_PageLayout::resultCaptionsFollowTheChoices_data()
+{
+    QTest::addColumn<int>("method");
+    QTest::addColumn<int>("flow");
+    QTest::addColumn<QString>("heading2");
+    QTest::addColumn<QString>("heading5");
+    QTest::addColumn<QString>("box2");
+    QTest::addColumn<QString>("box4");
+    QTest::addColumn<QString>("box5");
+    QTest::addColumn<QString>("box16");
+    QTest::addColumn<QString>("box17");
+    const QString runoff = QStringLiteral("Runoff Hydrograph Calculations");
+    const QString inflow = QStringLiteral("Channel Inflow Calculations");
+    const QString infiltration = QStringLiteral("Infiltration Calculations");
+    const QString efficiency = QStringLiteral("Treatment efficiency, [e]");
+    const QString peak = QStringLiteral("Peak runoff rate, [Qp]");
+    const QString volume = QStringLiteral("Volume of runoff (treatment volume), [Vr]");
+    const QString rate = QStringLiteral("Infiltration rate at normal depth, [Qip]");
+    const QString maxVolume = QStringLiteral("Computed max infiltration volume, [Vm]");
+    QTest::newRow("method 1, hydrograph")
+            << 1 << 1 << runoff << infiltration << efficiency << peak << volume << rate << maxVolume;
+    QTest::newRow("method 2, given flow")
+            << 2 << 2 << inflow << infiltration << efficiency
+            << QStringLiteral("Channel inflow rate, [Qp]")
+            << QStringLiteral("Inflow volume (treatment volume), [Vr]") << rate << maxVolume;
+    QTest::newRow("method 3, hydrograph")
+            << 3 << 1 << runoff << QStringLiteral("Inlet Dicharge Calculations")
+            << QStringLiteral("Treatment/interception efficiency, [e]") << peak << volume
+            << QStringLiteral("Potential dicharge rate at normal depth, [Qip]")
+            << QStringLiteral("Computed max discharge volume, [Vm]");
+}
+
+void tst_PageLayout::resultCaptionsFollowTheChoices()
+{
+    QFETCH(int, method);
+    QFETCH(int, flow);
+    ResultsPageFixture page;
+    const PageUnits units(page.panel->fontMetrics());
+    // From the other mode, so that every caption has to change.
+    PageLayout::LayoutResultsPage(page.controls, method == 3 ? 1 : 3, 3 - flow, units);
+    PageLayout::LayoutResultsPage(page.controls, method, flow, units);
+    const ResultsPageControls &c = page.controls;
+    QTEST(c.lblOutput[2]->text(), "heading2");
+    QTEST(c.lblOutput[5]->text(), "heading5");
+    QTEST(c.txtOutput[2]->leftcaption(), "box2");
+    QTEST(c.txtOutput[4]->leftcaption(), "box4");
+    QTEST(c.txtOutput[5]->leftcaption(), "box5");
+    QTEST(c.txtOutput[16]->leftcaption(), "box16");
+    QTEST(c.txtOutput[17]->leftcaption(), "box17");
+}
+
+void tst_PageLayout::captionsOfMethodFourAreLeftAsTheyWere()
+{
+    ResultsPageFixture page;
+    const PageUnits units(page.panel->fontMetrics());
+    PageLayout::LayoutResultsPage(page.controls, 3, 1, units);
+    PageLayout::LayoutResultsPage(page.controls, 4, 1, units);
+    QCOMPARE(page.controls.lblOutput[5]->text(), QStringLiteral("Infiltration Calculations"));
+    QCOMPARE(page.controls.txtOutput[2]->leftcaption(),
+             QStringLiteral("Treatment efficiency, [e]"));
+    QCOMPARE(page.controls.txtOutput[16]->leftcaption(),
+             QStringLiteral("Potential dicharge rate at normal depth, [Qip]"));
+}
+
+void tst_PageLayout::gapsComeFromTheSizeOfX()
+{
+    InputPageFixture page;
+    QFont big = page.panel->font();
+    big.setPointSizeF(big.pointSizeF() * 2);
+    const PageUnits small(page.panel->fontMetrics());
+    const PageUnits large{ QFontMetrics(big) };
+    QVERIFY(large.xHeight > small.xHeight);
+    QCOMPARE(small.boxGap, small.xHeight / 4);
+    QCOMPARE(small.underHeading, small.xHeight / 2);
+    QCOMPARE(small.headingGap, small.xHeight + 10);
+
+    PageLayout::LayoutInputPage(page.controls, 1, 1, small);
+    const InputPageControls &c = page.controls;
+    QCOMPARE(c.txtInput[6]->y() - c.txtInput[5]->geometry().bottom() - 1, small.boxGap);
+    QCOMPARE(c.lblInput[2]->y() - c.grpSolutionMethod->geometry().bottom() - 1, small.headingGap);
+    QCOMPARE(c.txtInput[5]->y() - c.lblInput[2]->geometry().bottom() - 1, small.underHeading);
+}
+
+QTEST_MAIN(tst_PageLayout)
+#include "tst_PageLayout.moc"
