@@ -9,8 +9,8 @@ namespace {
 constexpr double kThinRule = 0.045;
 constexpr double kHeavyRule = 0.12;
 constexpr double kFieldIndent = 1.5;
-constexpr double kRowPadding = 0.25;
-constexpr double kColumnGap = 1.0;
+constexpr double kRowPadding = 0.15;
+constexpr double kColumnGap = 1.5;
 
 struct FieldColumns
 {
@@ -54,8 +54,8 @@ private:
     void addWrappedLine(const QString &text, double x, ReportFont font);
     void addField(const ReportField &field);
     void addRatingCurve(const ReportGroup &group);
+    void markRun(size_t first);
     ReportBlock ratingHeader(const QString &heading, const std::vector<double> &columns) const;
-    void addEndMark();
 
     double m_left;
     double m_width;
@@ -96,7 +96,7 @@ ReportBlock &BlockBuilder::newBlock(double spaceBefore, bool keepWithNext)
 void BlockBuilder::measureColumns(const ReportContent &content)
 {
     double caption = 0;
-    double value = textWidth(QStringLiteral("0000000.000"), ReportFont::BodyBold);
+    double value = textWidth(QStringLiteral("00000000.000"), ReportFont::BodyBold);
     double unit = textWidth(QStringLiteral("feet per second"), ReportFont::Body);
     for (const ReportSection &section : content.sections) {
         for (const ReportGroup &group : section.groups) {
@@ -160,7 +160,7 @@ void BlockBuilder::addSectionHeading(const QString &text, double spaceBefore)
 
 void BlockBuilder::addGroupHeading(const QString &text)
 {
-    ReportBlock &block = newBlock(0.55, true);
+    ReportBlock &block = newBlock(0.45, true);
     block.height = placeLines(block.items, wrapText(text, ReportFont::Group, m_width, m_measure),
                               m_left, 0, m_width, ReportFont::Group)
             + 0.1 * m_unit;
@@ -268,7 +268,7 @@ void BlockBuilder::addRatingCurve(const ReportGroup &group)
         columns.push_back(columns.back() + std::min(width + 2 * pad, available / 3));
 
     m_list.blocks.push_back(ratingHeader(group.heading, columns));
-    m_list.blocks.back().spaceBefore = 0.55 * m_unit;
+    m_list.blocks.back().spaceBefore = 0.45 * m_unit;
     m_list.blocks.back().keepWithNext = true;
     m_list.repeatHeaders.push_back(
             ratingHeader(group.heading + QStringLiteral(" (continued)"), columns));
@@ -299,11 +299,13 @@ void BlockBuilder::addRatingCurve(const ReportGroup &group)
         addWrappedLine(QStringLiteral("(no rows)"), tableLeft, ReportFont::Body);
 }
 
-void BlockBuilder::addEndMark()
+// Marks the blocks from `first` to the last one added as a run that should not break.
+void BlockBuilder::markRun(size_t first)
 {
-    ReportBlock &block = newBlock(1.5);
-    block.height = placeLines(block.items, { QStringLiteral("End of report") }, m_left, 0, m_width,
-                              ReportFont::Furniture, Qt::AlignHCenter);
+    double height = 0;
+    for (size_t i = first; i < m_list.blocks.size(); ++i)
+        height += (i == first ? 0 : m_list.blocks[i].spaceBefore) + m_list.blocks[i].height;
+    m_list.blocks[first].runHeight = height;
 }
 
 BlockList BlockBuilder::build(const ReportContent &content)
@@ -311,7 +313,8 @@ BlockList BlockBuilder::build(const ReportContent &content)
     measureColumns(content);
     addTitle(content);
     for (const ReportSection &section : content.sections) {
-        addSectionHeading(section.heading, 1.4);
+        const size_t first = m_list.blocks.size();
+        addSectionHeading(section.heading, 1.1);
         if (!section.note.isEmpty())
             addWrappedLine(section.note, m_columns.captionLeft, ReportFont::Body);
         for (const ReportGroup &group : section.groups) {
@@ -320,16 +323,16 @@ BlockList BlockBuilder::build(const ReportContent &content)
                 continue;
             }
             addGroupHeading(group.heading);
+            const size_t heading = m_list.blocks.size() - 1;
             if (!group.choice.isEmpty())
                 addWrappedLine(group.choice, m_columns.captionLeft, ReportFont::Body);
-            // A group of fields stays on one page: a reader checks them together.
-            for (size_t i = 0; i < group.fields.size(); ++i) {
-                addField(group.fields[i]);
-                m_list.blocks.back().keepWithNext = i + 1 < group.fields.size();
-            }
+            for (const ReportField &field : group.fields)
+                addField(field);
+            markRun(heading); // a reader checks a group's fields together
         }
+        if (section.keepTogether)
+            markRun(first);
     }
-    addEndMark();
     return m_list;
 }
 

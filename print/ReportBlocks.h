@@ -16,6 +16,9 @@ struct ReportBlock
     double height = 0;
     double spaceBefore = 0; // dropped at the top of a page
     bool keepWithNext = false; // headings stay on the page of what they head
+    // Height of the run of blocks this one starts (a group, a section) when the run should not
+    // break: it then moves to a new page whole, provided it fits on one. 0 for no such run.
+    double runHeight = 0;
     int repeatHeader = -1; // index in BlockList::repeatHeaders when the block is a table row
     ReportPage items; // x in page units, y from the block's top
 };

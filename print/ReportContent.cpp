@@ -135,6 +135,7 @@ ReportSection resultsSection(const SwaleProject &project)
 
     ReportSection section;
     section.heading = QStringLiteral("II.  RESULTS");
+    section.keepTogether = true; // the results are read as one sheet
     if (!project.resultsShown) {
         section.note = QStringLiteral("No results: the inputs above have not been calculated.");
         return section;

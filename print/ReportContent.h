@@ -41,6 +41,7 @@ struct ReportSection
 {
     QString heading; // "I.  INPUT DATA", "II.  RESULTS"
     QString note; // a remark printed in place of groups that are missing ("" for none)
+    bool keepTogether = false; // starts a new page rather than break, when it fits on one
     std::vector<ReportGroup> groups;
 };
 

@@ -53,8 +53,9 @@ double keptHeight(const std::vector<ReportBlock> &blocks, size_t first)
 }
 
 // Fills pages top to bottom between `top` and `bottom`. A block that does not fit (with the
-// blocks it keeps with) starts a new page, unless the page is still empty: an oversized block is
-// then placed anyway, so that the layout always moves on. A block that opens a page inside a
+// blocks it keeps with, or with its whole run when the run fits on a page) starts a new page,
+// unless the page is still empty: an oversized block is then placed anyway, so that the layout
+// always moves on. A block that opens a page inside a
 // table first repeats the table's header.
 std::vector<ReportPage> paginate(const BlockList &list, double top, double bottom)
 {
@@ -64,7 +65,10 @@ std::vector<ReportPage> paginate(const BlockList &list, double top, double botto
     for (size_t i = 0; i < list.blocks.size(); ++i) {
         const ReportBlock &block = list.blocks[i];
         const double before = empty ? 0 : block.spaceBefore;
-        if (!empty && y + before + keptHeight(list.blocks, i) > bottom) {
+        double needed = keptHeight(list.blocks, i);
+        if (block.runHeight <= bottom - top)
+            needed = std::max(needed, block.runHeight);
+        if (!empty && y + before + needed > bottom) {
             pages.emplace_back();
             y = top;
             empty = true;

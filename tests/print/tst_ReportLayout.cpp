@@ -46,7 +46,7 @@ int fieldCount(const ReportSection &section)
 
 bool isPageFurniture(const PlacedText &text)
 {
-    return text.font == ReportFont::Furniture && !text.text.startsWith(QStringLiteral("End of"));
+    return text.font == ReportFont::Furniture;
 }
 
 } // namespace
@@ -73,6 +73,7 @@ private slots:
     void everyPageIsNumbered();
     void longRatingCurveBreaksWithItsHeaderRepeated();
     void headingsNeverEndAPage();
+    void resultsMoveToANewPageRatherThanBreak();
     void marginsMoveTheText();
 };
 
@@ -358,6 +359,34 @@ void tst_ReportLayout::headingsNeverEndAPage()
                                         .arg(margin)
                                         .arg(p + 1)
                                         .arg(lowest->text)));
+        }
+    }
+}
+
+// The results fit on one page: they start a new page rather than break across two, whatever
+// room the inputs leave.
+void tst_ReportLayout::resultsMoveToANewPageRatherThanBreak()
+{
+    for (int method = 1; method <= 4; ++method) {
+        for (double margin : { 36.0, 60.0, 90.0, 120.0 }) {
+            const SwaleProject project = calculatedProject(method);
+            const ReportContent content = buildReportContent(project, QString());
+            const std::vector<ReportPage> pages
+                    = layoutReport(content, letterFrame(margin), FixedMeasure());
+            std::set<size_t> resultPages;
+            for (size_t p = 0; p < pages.size(); ++p) {
+                const QStringList texts = textsOf(pages[p]);
+                for (const ReportGroup &group : content.sections[1].groups) {
+                    for (const ReportField &field : group.fields) {
+                        if (texts.contains(field.caption))
+                            resultPages.insert(p);
+                    }
+                }
+                if (texts.contains(QStringLiteral("II.  RESULTS")))
+                    resultPages.insert(p);
+            }
+            QVERIFY2(resultPages.size() == 1,
+                     qPrintable(QStringLiteral("method %1, margin %2").arg(method).arg(margin)));
         }
     }
 }
