@@ -7,6 +7,7 @@
 
 #include <QFontMetrics>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include <algorithm>
@@ -47,11 +48,14 @@ public:
         widen(item->geometry().right() + 1);
     }
 
-    // Puts `button` to the right of `item`, on the same top and as high as the item.
-    void placeBeside(QPushButton *button, const QWidget *item)
+    // Puts `button` to the right of `box`, on the same top and as high as the box: beside its
+    // value field when the box has no unit, else beside the unit column (so that the buttons
+    // of boxes with and without a unit line up).
+    void placeBeside(QPushButton *button, const tvrEditBox *box, bool besideValue)
     {
-        const QRect at = item->geometry();
-        const int left = at.right() + 1 + m_units.besideGap;
+        const QRect at = box->geometry();
+        const int right = besideValue ? box->editor()->geometry().right() + at.left() : at.right();
+        const int left = right + 1 + m_units.besideGap;
         button->setGeometry(left, at.top(), button->sizeHint().width(), at.height());
         button->show();
         widen(button->geometry().right() + 1);
@@ -212,9 +216,9 @@ QSize LayoutInputPage(const InputPageControls &c, int solutionMethod, int channe
             placeInputBoxes(c, walk, boxes.firstBox, boxes.lastBox, solutionMethod,
                             channelFlowMethod, units, gap);
     }
-    walk.placeBeside(c.cmdToday, c.txtInput[3]);
-    walk.placeBeside(c.cmdHelp[1], c.txtInput[18]);
-    walk.placeBeside(c.cmdHelp[2], c.txtInput[19]);
+    walk.placeBeside(c.cmdToday, c.txtInput[3], true);
+    walk.placeBeside(c.cmdHelp[1], c.txtInput[18], false);
+    walk.placeBeside(c.cmdHelp[2], c.txtInput[19], false);
     stretchHeadings(headings, walk, units);
     const QSize size = walk.panelSize();
     c.panel->resize(size);

@@ -112,11 +112,17 @@ void verifyAlignedValues(const QWidget *panel, const char *name)
     QCOMPARE(starts.size(), 1);
 }
 
+// `button` stands right of `box`'s value field (and of its unit, when it has one), on the
+// same row.
 void verifyBeside(const QPushButton *button, const tvrEditBox *box)
 {
     QCOMPARE(button->y(), box->y());
     QCOMPARE(button->height(), box->height());
-    QVERIFY(button->x() > box->geometry().right());
+    const QWidget *panel = box->parentWidget();
+    int right = box->editor()->mapTo(panel, QPoint(box->editor()->width(), 0)).x();
+    if (!box->rightcaption().isEmpty())
+        right = box->geometry().right();
+    QVERIFY(button->x() > right);
     QVERIFY(!button->isHidden());
 }
 
@@ -165,6 +171,7 @@ void tst_PageLayout::inputPageShowsTheSectionsOfTheMode()
     verifyBeside(page.controls.cmdToday, page.controls.txtInput[3]);
     verifyBeside(page.controls.cmdHelp[1], page.controls.txtInput[18]);
     verifyBeside(page.controls.cmdHelp[2], page.controls.txtInput[19]);
+    QCOMPARE(page.controls.cmdHelp[1]->x(), page.controls.cmdHelp[2]->x());
     // The page ends 2 plus a margin below its last item.
     const QWidget *last = page.panel->findChild<QWidget *>(expectedInputOrder(method, flow).last());
     QCOMPARE(size.height(), last->geometry().bottom() + 1 + 2 + units.margin);
