@@ -267,6 +267,7 @@ void BlockBuilder::addRatingCurve(const ReportGroup &group)
     for (double width : { numberWidth, depthWidth, dischargeWidth })
         columns.push_back(columns.back() + std::min(width + 2 * pad, available / 3));
 
+    const size_t header = m_list.blocks.size();
     m_list.blocks.push_back(ratingHeader(group.heading, columns));
     m_list.blocks.back().spaceBefore = 0.45 * m_unit;
     m_list.blocks.back().keepWithNext = true;
@@ -294,7 +295,10 @@ void BlockBuilder::addRatingCurve(const ReportGroup &group)
                     QRectF(columns.front(), 0, columns.back() - columns.front(), block.height));
         if (i + 1 == count)
             addRule(block.items, block.height, kThinRule * 1.5, columns.front(), columns.back());
+        // No page holds fewer than three rows at the start or two at the end of the table.
+        block.keepWithNext = i + 1 < count && (i < 2 || i + 2 == count);
     }
+    markRun(header);
     if (count == 0)
         addWrappedLine(QStringLiteral("(no rows)"), tableLeft, ReportFont::Body);
 }

@@ -30,11 +30,17 @@ public:
         messages.push_back({ message, style, title });
         return 1;
     }
-    bool askPrinter(QPrinter &) override
+    // A printer that prints to `printToFile`, as the print dialog's "Print to File" does.
+    bool askPrinter(QPrinter &printer) override
     {
         ++printerDialogs;
         if (!printerAnswer)
             QTest::qFail("unscripted print dialog", __FILE__, __LINE__);
+        printedPaper = printer.pageLayout().pageSize().id();
+        if (!printToFile.isEmpty()) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(printToFile);
+        }
         return printerAnswer.value_or(false);
     }
     bool askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins) override
@@ -60,6 +66,8 @@ public:
 
     bool printerInstalled = false;
     std::optional<bool> printerAnswer;
+    QString printToFile;
+    QPageSize::PageSizeId printedPaper = QPageSize::Custom;
     std::optional<ReportPageSetup> pageSetupAnswer;
     std::optional<QString> pdfAnswer;
     std::vector<Message> messages;
@@ -95,6 +103,8 @@ private slots:
     void init();
     void noPrinterIsReported();
     void cancelledPrintDialogPrintsNothing();
+    void printGoesToTheChosenPrinter();
+    void printerThatCannotBeOpenedIsReported();
     void exportWritesTheReport();
     void exportCancelledWritesNothing();
     void exportToAnUnwritablePlaceIsReported();
@@ -139,6 +149,36 @@ void tst_PrintRoutine::cancelledPrintDialogPrintsNothing()
     QVERIFY(!m_routine->printReport(m_project, QString()));
     QCOMPARE(m_prompts->printerDialogs, 1);
     QVERIFY(m_prompts->messages.empty());
+}
+
+void tst_PrintRoutine::printGoesToTheChosenPrinter()
+{
+    writeMarginsFile(m_programFolder->path(), "1\r\n1000\r\n500\r\n500\r\n500\r\n");
+    m_prompts->printerInstalled = true;
+    m_prompts->printerAnswer = true;
+    m_prompts->printToFile = m_programFolder->filePath(QStringLiteral("printed.pdf"));
+    QVERIFY(m_routine->printReport(m_project, QStringLiteral("/jobs/route9.swl")));
+    QVERIFY(m_prompts->messages.empty());
+    QCOMPARE(m_prompts->printedPaper, QPageSize::Letter); // the dialog opens on the chosen paper
+
+    const PdfProbe pdf(m_prompts->printToFile);
+    QVERIFY2(pdf.isValid(), qPrintable(pdf.errorString()));
+    QVERIFY(pdf.text().contains(QStringLiteral("II. RESULTS")));
+    QVERIFY(pdf.text().contains(QStringLiteral("Page 1 of %1").arg(pdf.pageCount())));
+    QVERIFY(qAbs(leftmostWord(m_prompts->printToFile) - 72) < 1.5); // Margins.ini: 1 inch left
+}
+
+void tst_PrintRoutine::printerThatCannotBeOpenedIsReported()
+{
+    m_prompts->printerInstalled = true;
+    m_prompts->printerAnswer = true;
+    m_prompts->printToFile = m_programFolder->filePath(QStringLiteral("no folder/printed.pdf"));
+    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
+    QVERIFY(!m_routine->printReport(m_project, QString()));
+    QCOMPARE(m_prompts->messages.size(), size_t(1));
+    QCOMPARE(m_prompts->messages[0].text,
+             QStringLiteral("Unable to establish connection with printer."));
+    QCOMPARE(m_prompts->messages[0].title, QStringLiteral("Error"));
 }
 
 void tst_PrintRoutine::exportWritesTheReport()
