@@ -22,7 +22,8 @@ std::string jsonFault(const ValidationFault &fault)
         out += ", \"input\": " + std::to_string(fault.input);
         break;
     case FaultPlace::GridCell:
-        out += ", \"row\": " + std::to_string(fault.row) + ", \"col\": " + std::to_string(fault.col);
+        out += ", \"row\": " + std::to_string(fault.row)
+                + ", \"col\": " + std::to_string(fault.col);
         break;
     case FaultPlace::None:
         break;

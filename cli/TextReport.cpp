@@ -44,8 +44,8 @@ std::string headerLines(const SwaleProject &project)
 
 std::string resultLine(const SwaleProject &project, const CalculationOutcome &outcome, int box)
 {
-    const std::string caption =
-            outputCaption(box, project.solutionMethod, project.channelFlowMethod);
+    const std::string caption
+            = outputCaption(box, project.solutionMethod, project.channelFlowMethod);
     std::string line = "  " + padRight(caption + " ", kCaptionWidth, '.') + " "
             + padLeft(outcome.results[static_cast<size_t>(box)], kValueWidth);
     const std::string unit = outputBox(box).unit;

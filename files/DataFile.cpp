@@ -188,7 +188,8 @@ bool DataFile::ReadInteger(int &value)
     if (!ReadLine(line))
         return false;
     if (!parseShortInteger(line, value))
-        return failAtLine("\"" + line.substr(0, 40) + "\" is not a whole number from -32768 to 32767");
+        return failAtLine("\"" + line.substr(0, 40)
+                          + "\" is not a whole number from -32768 to 32767");
     return true;
 }
 

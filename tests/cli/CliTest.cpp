@@ -52,9 +52,9 @@ SwaleProject workingProject(int method)
     project.solutionMethod = method;
     project.channelFlowMethod = 2;
     const std::pair<int, const char *> values[] = {
-        { 4, "300" }, { 5, "4" }, { 6, "3" }, { 7, "3" }, { 8, "0.01" }, { 9, "50" },
-        { 15, "2" }, { 16, "60" }, { 18, "5" }, { 19, "0.035" }, { 20, "2" }, { 21, "2" },
-        { 22, "35" }, { 23, "3" },
+        { 4, "300" }, { 5, "4" },  { 6, "3" },   { 7, "3" },  { 8, "0.01" },
+        { 9, "50" },  { 15, "2" }, { 16, "60" }, { 18, "5" }, { 19, "0.035" },
+        { 20, "2" },  { 21, "2" }, { 22, "35" }, { 23, "3" },
     };
     for (const auto &[box, text] : values)
         project.inputText[static_cast<size_t>(box)] = text;
@@ -100,7 +100,9 @@ TEST_F(SwaleCalcTest, AMissingFileIsNamedAndExitsWith3)
     const std::string path = m_folder.file("nowhere.swl");
     const CalcRun json = runCalc({ "--json", path });
     EXPECT_EQ(json.exitCode, 3);
-    EXPECT_EQ(json.out.rfind("{\"status\": \"unreadable\", \"message\": \"Unable to open file: " + path, 0),
+    EXPECT_EQ(json.out.rfind("{\"status\": \"unreadable\", \"message\": \"Unable to open file: "
+                                     + path,
+                             0),
               0u)
             << json.out;
     const CalcRun text = runCalc({ path });
@@ -205,7 +207,8 @@ TEST_F(SwaleCalcTest, BeyondTheRatingCurveGivesTwoMessages)
     project.setRatingCurveCell(2, 2, "0.1");
     const CalcRun run = runCalc({ "--json", saved(project) });
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_EQ(run.out.rfind("{\"status\": \"failed\", \"messages\": [\"The normal depth of flow (", 0),
+    EXPECT_EQ(run.out.rfind("{\"status\": \"failed\", \"messages\": [\"The normal depth of flow (",
+                            0),
               0u)
             << run.out;
     EXPECT_NE(run.out.find(" ft) exceeds the rating curve data.\", \"\"]}\n"), std::string::npos)

@@ -148,7 +148,7 @@ TEST(DataFileEncoding, ReadsUtf8ElseWindows1252)
         SCOPED_TRACE(row.name);
         const std::string path = folder.file("encoding.txt");
         writeBytes(path, row.fileBytes + "\r\n");
-        EXPECT_EQ(readAllLines(path), Lines{ row.text });
+        EXPECT_EQ(readAllLines(path), Lines { row.text });
     }
 }
 
@@ -159,7 +159,7 @@ TEST(DataFileEncoding, OneForeignByteMakesTheWholeFileWindows1252)
     TempFolder folder;
     const std::string path = folder.file("mixed.txt");
     writeBytes(path, "\xC3\xA9\r\n\xE9\r\n");
-    EXPECT_EQ(readAllLines(path), (Lines{ "\xC3\x83\xC2\xA9", "\xC3\xA9" }));
+    EXPECT_EQ(readAllLines(path), (Lines { "\xC3\x83\xC2\xA9", "\xC3\xA9" }));
 }
 
 TEST(DataFileEncoding, WritesWindows1252WhenEveryCharacterFits)
@@ -168,7 +168,7 @@ TEST(DataFileEncoding, WritesWindows1252WhenEveryCharacterFits)
     const std::string path = folder.file("western.txt");
     ASSERT_TRUE(writeFile(path, { "caf\xC3\xA9", "\xE2\x82\xAC 5", "ft\xC2\xB3" }));
     EXPECT_EQ(readBytes(path), "caf\xE9\r\n\x80 5\r\nft\xB3\r\n");
-    EXPECT_EQ(readAllLines(path), (Lines{ "caf\xC3\xA9", "\xE2\x82\xAC 5", "ft\xC2\xB3" }));
+    EXPECT_EQ(readAllLines(path), (Lines { "caf\xC3\xA9", "\xE2\x82\xAC 5", "ft\xC2\xB3" }));
 }
 
 TEST(DataFileEncoding, WritesUtf8WhenACharacterDoesNotFit)
@@ -215,29 +215,14 @@ struct IntegerCase
 };
 
 const IntegerCase kIntegers[] = {
-    { "0", true, 0 },
-    { "3", true, 3 },
-    { "  12  ", true, 12 },
-    { "\t5\t", true, 5 },
-    { "+7", true, 7 },
-    { "-1", true, -1 },
-    { "007", true, 7 },
-    { "32767", true, 32767 },
-    { "-32768", true, -32768 },
-    { "32768", false, 0 },
-    { "-32769", false, 0 },
-    { "99999999999999999999999", false, 0 },
-    { "", false, 0 },
-    { "   ", false, 0 },
-    { "+", false, 0 },
-    { "- 5", false, 0 },
-    { "1.5", false, 0 },
-    { "1e3", false, 0 },
-    { "12a", false, 0 },
-    { "abc", false, 0 },
-    { "0x10", false, 0 },
-    { "1 2", false, 0 },
-    { "1,000", false, 0 },
+    { "0", true, 0 },      { "3", true, 3 },         { "  12  ", true, 12 },
+    { "\t5\t", true, 5 },  { "+7", true, 7 },        { "-1", true, -1 },
+    { "007", true, 7 },    { "32767", true, 32767 }, { "-32768", true, -32768 },
+    { "32768", false, 0 }, { "-32769", false, 0 },   { "99999999999999999999999", false, 0 },
+    { "", false, 0 },      { "   ", false, 0 },      { "+", false, 0 },
+    { "- 5", false, 0 },   { "1.5", false, 0 },      { "1e3", false, 0 },
+    { "12a", false, 0 },   { "abc", false, 0 },      { "0x10", false, 0 },
+    { "1 2", false, 0 },   { "1,000", false, 0 },
 };
 
 TEST(DataFileReadInteger, AcceptsOnlyShortWholeNumbers)
@@ -254,8 +239,7 @@ TEST(DataFileReadInteger, AcceptsOnlyShortWholeNumbers)
         if (row.ok) {
             EXPECT_EQ(value, row.value);
         } else {
-            EXPECT_NE(file.errorString().find("line 1: "), std::string::npos)
-                    << file.errorString();
+            EXPECT_NE(file.errorString().find("line 1: "), std::string::npos) << file.errorString();
         }
     }
 }
@@ -287,7 +271,8 @@ TEST(DataFileRefusals, AHugeLineFailsItsRead)
 {
     TempFolder folder;
     const std::string path = folder.file("huge.swl");
-    writeBytes(path, "Swale_03\r\n" + std::string(DataFile::kMaxLineLength + 1, '7') + "\r\nafter\r\n");
+    writeBytes(path,
+               "Swale_03\r\n" + std::string(DataFile::kMaxLineLength + 1, '7') + "\r\nafter\r\n");
     DataFile file;
     ASSERT_TRUE(file.OpenForRead(path));
     std::string line;
@@ -324,7 +309,7 @@ TEST(DataFileAtomicSave, ReplacesTheOldFileOnlyAtClose)
     EXPECT_EQ(readBytes(path), "old\r\n") << "the target is untouched until Close";
     ASSERT_TRUE(file.Close()) << file.errorString();
     EXPECT_EQ(readBytes(path), "new\r\n");
-    EXPECT_EQ(folder.entries(), std::vector<std::string>{ "project.swl" });
+    EXPECT_EQ(folder.entries(), std::vector<std::string> { "project.swl" });
 }
 
 TEST(DataFileAtomicSave, AnUnfinishedSaveKeepsTheOldFile)
@@ -338,7 +323,7 @@ TEST(DataFileAtomicSave, AnUnfinishedSaveKeepsTheOldFile)
         ASSERT_TRUE(file.WriteLine("half"));
     } // destroyed without Close, as when a writer gives up part way
     EXPECT_EQ(readBytes(path), "old\r\n");
-    EXPECT_EQ(folder.entries(), std::vector<std::string>{ "project.swl" });
+    EXPECT_EQ(folder.entries(), std::vector<std::string> { "project.swl" });
 }
 
 // Runs in a death-test child: saves over `path` with writes limited to 64 bytes and exits with 0
@@ -366,7 +351,7 @@ TEST(DataFileAtomicSave, AFailedWriteKeepsTheOldFile)
     writeBytes(path, old);
     EXPECT_EXIT(saveUnderFileSizeLimit(path), ::testing::ExitedWithCode(0), "");
     EXPECT_EQ(readBytes(path), old);
-    EXPECT_EQ(folder.entries(), std::vector<std::string>{ "project.swl" })
+    EXPECT_EQ(folder.entries(), std::vector<std::string> { "project.swl" })
             << "the temporary file is removed";
 }
 } // namespace

@@ -25,15 +25,25 @@ SwaleProject sampleProject()
 {
     SwaleProject project;
     const char *const inputs[] = {
-        "", "Highway 7 median, inlet DBI-3", "R. Okafor", "05-11-2026", "", "2", "4", "4",
-        "0.02", "", "3", "0.7", "4", "20", "12", "", "", "Sod, clay liner", "6", "0.035",
-        "", "", "", "",
+        "",          "Highway 7 median, inlet DBI-3",
+        "R. Okafor", "05-11-2026",
+        "",          "2",
+        "4",         "4",
+        "0.02",      "",
+        "3",         "0.7",
+        "4",         "20",
+        "12",        "",
+        "",          "Sod, clay liner",
+        "6",         "0.035",
+        "",          "",
+        "",          "",
     };
     for (int box = 1; box <= kInputCount; ++box)
         project.inputText[static_cast<size_t>(box)] = inputs[box];
     project.solutionMethod = 3;
     project.channelFlowMethod = 1;
-    const char *const curve[][2] = { { "0", "0" }, { "2", "0.82" }, { "6", "4.24" }, { "12", "12" } };
+    const char *const curve[][2]
+            = { { "0", "0" }, { "2", "0.82" }, { "6", "4.24" }, { "12", "12" } };
     int row = 1;
     for (const auto &point : curve) {
         project.setRatingCurveCell(row, 1, point[0]);
@@ -86,12 +96,31 @@ protected:
 TEST_F(ProjectFileTest, WritesTheVersionThreeLayout)
 {
     const std::vector<std::string> expected = {
-        "Swale_03", "Highway 7 median, inlet DBI-3", "R. Okafor", "05-11-2026", "", "2", "4", "4",
-        "0.02", "", "3", "0.7", "4", "20", "12", "", "", "Sod, clay liner", "6", "0.035", "", "", "",
-        "", "3", "1", "4", "0,0", "2,0.82", "6,4.24", "12,12", "1", "", "3.000000", "4.500000",
-        "6.000000", "7.500000", "9.000000", "10.500000", "12.000000", "13.500000", "15.000000",
-        "16.500000", "18.000000", "19.500000", "21.000000", "22.500000", "24.000000", "25.500000",
-        "27.000000",
+        "Swale_03",  "Highway 7 median, inlet DBI-3",
+        "R. Okafor", "05-11-2026",
+        "",          "2",
+        "4",         "4",
+        "0.02",      "",
+        "3",         "0.7",
+        "4",         "20",
+        "12",        "",
+        "",          "Sod, clay liner",
+        "6",         "0.035",
+        "",          "",
+        "",          "",
+        "3",         "1",
+        "4",         "0,0",
+        "2,0.82",    "6,4.24",
+        "12,12",     "1",
+        "",          "3.000000",
+        "4.500000",  "6.000000",
+        "7.500000",  "9.000000",
+        "10.500000", "12.000000",
+        "13.500000", "15.000000",
+        "16.500000", "18.000000",
+        "19.500000", "21.000000",
+        "22.500000", "24.000000",
+        "25.500000", "27.000000",
     };
     EXPECT_EQ(save(sampleProject()), joinLines(expected));
 }
@@ -186,7 +215,7 @@ TEST_F(ProjectFileTest, StoredOptionsOutsideTheGroupsLeaveThemUnchosen)
         int expectedChannelFlow;
     };
     const Case cases[] = {
-        { "0", "0", 0, 0 }, { "4", "2", 4, 2 }, { "5", "3", 0, 0 },
+        { "0", "0", 0, 0 },  { "4", "2", 4, 2 },  { "5", "3", 0, 0 },
         { "-1", "1", 0, 1 }, { "1", "-2", 1, 0 }, { "32767", "2", 0, 2 },
     };
     for (const Case &row : cases) {
@@ -220,7 +249,8 @@ TEST_F(ProjectFileTest, AnyNonZeroResultsFlagMeansShown)
 // Lines 2 to 22 of the older layout, each naming the input box it must land in.
 std::vector<std::string> oldInputBlock()
 {
-    const int boxes[] = { 1, 2, 3, 10, 11, 12, 13, 14, 8, 5, 6, 7, 17, 18, 19, 20, 21, 22, 23, 9, 4 };
+    const int boxes[]
+            = { 1, 2, 3, 10, 11, 12, 13, 14, 8, 5, 6, 7, 17, 18, 19, 20, 21, 22, 23, 9, 4 };
     std::vector<std::string> lines;
     for (const int box : boxes)
         lines.push_back("box " + std::to_string(box));
@@ -348,7 +378,8 @@ struct DamageCase
 
 std::string validStart()
 {
-    return joinLines(std::vector<std::string>(1, "Swale_03")) + joinLines(std::vector<std::string>(23, "7"));
+    return joinLines(std::vector<std::string>(1, "Swale_03"))
+            + joinLines(std::vector<std::string>(23, "7"));
 }
 
 const DamageCase kDamage[] = {
@@ -366,8 +397,9 @@ const DamageCase kDamage[] = {
       ProjectFileStep::Read, "longer than" },
     { "binary junk", std::string("Swale_03\r\n\0\x01\x7F\xFF junk", 16), ProjectFileStep::Open,
       "binary data" },
-    { "version 1 without its results flag", "Swale_01\r\n" + joinLines(std::vector<std::string>(22, "1")),
-      ProjectFileStep::Read, "unexpected end of file" },
+    { "version 1 without its results flag",
+      "Swale_01\r\n" + joinLines(std::vector<std::string>(22, "1")), ProjectFileStep::Read,
+      "unexpected end of file" },
 };
 
 TEST_F(ProjectFileTest, DamagedFilesAreRefusedWithAClearStatus)
@@ -405,8 +437,8 @@ TEST_F(ProjectFileTest, RandomJunkAfterAValidHeaderNeverCrashes)
 
 TEST_F(ProjectFileTest, SaveFailuresNameTheirStep)
 {
-    const ProjectFileResult intoMissingFolder =
-            saveProject(m_folder.file("no/folder/p.swl"), sampleProject());
+    const ProjectFileResult intoMissingFolder
+            = saveProject(m_folder.file("no/folder/p.swl"), sampleProject());
     EXPECT_FALSE(intoMissingFolder.ok);
     EXPECT_EQ(intoMissingFolder.failedStep, ProjectFileStep::Open);
 

@@ -90,9 +90,9 @@ TEST(clsTextParserExt, CustomDelimitersReplaceTheDefaults)
 {
     clsTextParserExt parser;
     parser.setCustomDelimiters(";");
-    EXPECT_EQ(tokensOf(parser, "1,5;2 5"), (Tokens{ "1,5", "2 5" }));
+    EXPECT_EQ(tokensOf(parser, "1,5;2 5"), (Tokens { "1,5", "2 5" }));
     parser.setCustomDelimiters("");
-    EXPECT_EQ(tokensOf(parser, "1,5;2"), (Tokens{ "1", "5;2" }));
+    EXPECT_EQ(tokensOf(parser, "1,5;2"), (Tokens { "1", "5;2" }));
 }
 
 TEST(TextParsers, EmptyTextGivesNoFirstToken)
