@@ -222,8 +222,8 @@ ProjectFileResult loadProject(const std::string &path, SwaleProject &project)
             return failure(ProjectFileStep::Open, "the file is empty");
         if (file.lineNumber() == 1 && file.errorString().empty())
             return failure(ProjectFileStep::Open,
-                           "not a project file of version 1, 2 or 3 (the first line does not "
-                           "read \"Swale_01\", \"Swale_02\" or \"Swale_03\")");
+                           "not a project file of version 1, 2 or 3: the first line does not "
+                           "read \"Swale_01\", \"Swale_02\" or \"Swale_03\"");
         return failure(ProjectFileStep::Read, file.errorString());
     }
     file.Close();
