@@ -1,0 +1,350 @@
+#include "GridTestSupport.h"
+
+#include <QSignalSpy>
+
+// Layout, zones, visibility and the colours and clipping of painted cells, read back from the
+// drawing surface's pixels.
+class tst_RdcGridAPaint : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void scrollBars_data();
+    void scrollBars();
+    void hitZone_data();
+    void hitZone();
+    void visibility_data();
+    void visibility();
+    void rowQuadrant();
+    void makeCellVisibleScrolls();
+    void cellColours_data();
+    void cellColours();
+    void textAlignment_data();
+    void textAlignment();
+    void longTextIsClippedInsideItsCell();
+    void disabledGridIsGrey();
+    void columnResizeByDragging_data();
+    void columnResizeByDragging();
+    void resizeGuideInvertsAndErases();
+};
+
+namespace {
+// A solid glyph: its middle pixel has exactly the text colour, free of antialiasing.
+const QString kBlock = QString(QChar(0x2588));
+
+QColor systemColor(const RdcGridA *grid, int index)
+{
+    return GridColors::systemColor(index, grid->palette());
+}
+} // namespace
+
+void tst_RdcGridAPaint::scrollBars_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("cols");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("horizontal");
+    QTest::addColumn<bool>("vertical");
+
+    // Content: 30 + 65 per column wide, 20 + 20 per row high.
+    QTest::newRow("everything fits") << 5 << 2 << 160 << 120 << false << false;
+    QTest::newRow("too many rows") << 30 << 2 << 200 << 120 << false << true;
+    QTest::newRow("too many columns") << 3 << 6 << 200 << 120 << true << false;
+    // 2 columns need 160: fits alone, but not beside the vertical bar that the rows need.
+    QTest::newRow("vertical bar forces horizontal") << 30 << 2 << 165 << 120 << true << true;
+    // 5 rows need 120: fits alone, not above the horizontal bar.
+    QTest::newRow("horizontal bar forces vertical") << 5 << 6 << 200 << 125 << true << true;
+}
+
+void tst_RdcGridAPaint::scrollBars()
+{
+    QFETCH(int, rows);
+    QFETCH(int, cols);
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QFETCH(bool, horizontal);
+    QFETCH(bool, vertical);
+    GridWindow w(rows, cols, QSize(width, height));
+    QCOMPARE(w.hsc()->isVisible(), horizontal);
+    QCOMPARE(w.vsc()->isVisible(), vertical);
+    const int barWidth = vertical ? w.vsc()->width() : 0;
+    QCOMPARE(w.pic()->width(), width - barWidth);
+}
+
+void tst_RdcGridAPaint::hitZone_data()
+{
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<int>("zone");
+    // Row-header column 30 wide, header row 20 high; the zones share their edges.
+    QTest::newRow("corner") << QPoint(5, 5) << int(RdcGridA::ZoneCorner);
+    QTest::newRow("column header") << QPoint(60, 5) << int(RdcGridA::ZoneColumnHeader);
+    QTest::newRow("row header") << QPoint(5, 60) << int(RdcGridA::ZoneRowHeader);
+    QTest::newRow("data cell") << QPoint(60, 60) << int(RdcGridA::ZoneDataCell);
+    QTest::newRow("common corner counts as data") << QPoint(30, 20) << int(RdcGridA::ZoneDataCell);
+    QTest::newRow("data edge below the headers") << QPoint(60, 20) << int(RdcGridA::ZoneDataCell);
+    QTest::newRow("corner's right edge") << QPoint(30, 5) << int(RdcGridA::ZoneCorner);
+    QTest::newRow("row header's right edge is data") << QPoint(30, 60)
+                                                     << int(RdcGridA::ZoneDataCell);
+    QTest::newRow("left of the surface") << QPoint(-1, 60) << int(RdcGridA::ZoneNone);
+    QTest::newRow("below the surface") << QPoint(60, 500) << int(RdcGridA::ZoneNone);
+}
+
+void tst_RdcGridAPaint::hitZone()
+{
+    QFETCH(QPoint, point);
+    QFETCH(int, zone);
+    GridWindow w(5, 2, QSize(200, 150));
+    QCOMPARE(w.grid->HitZone(point.x(), point.y()), zone);
+}
+
+void tst_RdcGridAPaint::visibility_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("col");
+    QTest::addColumn<int>("expected");
+    // Surface 180 x 110 beside the vertical bar: columns 1 (30..94) and 2 (95..159) whole,
+    // column 3 from 160 cut; rows 1 to 4 whole (20..99), row 5 from 100 cut.
+    QTest::newRow("whole") << 1 << 1 << int(RdcGridA::FullyVisible);
+    QTest::newRow("last whole row") << 4 << 2 << int(RdcGridA::FullyVisible);
+    QTest::newRow("row cut") << 5 << 1 << int(RdcGridA::PartlyVisible);
+    QTest::newRow("column cut, row whole") << 2 << 3 << int(RdcGridA::PartlyVisible);
+    QTest::newRow("row below the surface") << 7 << 1 << int(RdcGridA::NotVisible);
+    QTest::newRow("column right of the surface") << 1 << 4 << int(RdcGridA::NotVisible);
+}
+
+void tst_RdcGridAPaint::visibility()
+{
+    QFETCH(int, row);
+    QFETCH(int, col);
+    QFETCH(int, expected);
+    GridWindow w(20, 4, QSize(200, 110 + 14));
+    QCOMPARE(w.pic()->width(), 200 - w.vsc()->width());
+    QCOMPARE(w.grid->IsCellVisible(row, col), expected);
+    QCOMPARE(w.grid->LastFullyVisibleColumn(), 2);
+}
+
+void tst_RdcGridAPaint::rowQuadrant()
+{
+    GridWindow w(5, 2, QSize(200, 150));
+    const int bottom = w.pic()->height() - 1;
+    QCOMPARE(w.grid->GetRowNumQuadrant(0), int(RdcGridA::QuadrantInside));
+    QCOMPARE(w.grid->GetRowNumQuadrant(-1), int(RdcGridA::QuadrantAbove));
+    QCOMPARE(w.grid->GetRowNumQuadrant(bottom), int(RdcGridA::QuadrantInside));
+    QCOMPARE(w.grid->GetRowNumQuadrant(bottom + 1), int(RdcGridA::QuadrantBelow));
+}
+
+void tst_RdcGridAPaint::makeCellVisibleScrolls()
+{
+    GridWindow w(50, 8, QSize(220, 124)); // 4 whole rows, columns 1 and 2 whole
+    w.grid->MakeCellVisible(30, 1);
+    QCOMPARE(w.grid->IsCellVisible(30, 1), int(RdcGridA::FullyVisible));
+    QCOMPARE(w.grid->firstVisibleRow(), 27); // row 30 becomes the last whole row
+    QCOMPARE(w.vsc()->value(), 27);
+    w.grid->MakeCellVisible(3, 6);
+    QCOMPARE(w.grid->firstVisibleRow(), 3);
+    QCOMPARE(w.grid->IsCellVisible(3, 6), int(RdcGridA::FullyVisible));
+    QCOMPARE(w.hsc()->value(), w.grid->firstVisibleCol());
+    w.grid->MakeCellVisible(3, 1);
+    QCOMPARE(w.grid->firstVisibleCol(), 1);
+}
+
+void tst_RdcGridAPaint::cellColours_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("focused");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("fill");
+    QTest::addColumn<int>("ink");
+
+    using namespace GridColors;
+    const int plain = RdcGridA::PlainCell, selected = RdcGridA::SelectedCell,
+              current = RdcGridA::MarkedCurrentCell;
+    QTest::newRow("plain, focused") << true << true << plain << 5 << 8;
+    QTest::newRow("plain, not focused") << true << false << plain << 5 << 8;
+    QTest::newRow("plain, disabled") << false << false << plain << 15 << 17;
+    QTest::newRow("selected, focused") << true << true << selected << 14 << 13;
+    QTest::newRow("selected, not focused") << true << false << selected << 8 << 5;
+    QTest::newRow("selected, disabled") << false << false << selected << 17 << 15;
+    QTest::newRow("current, focused") << true << true << current << 13 << 14;
+    QTest::newRow("current, not focused") << true << false << current << 8 << 5;
+    QTest::newRow("current, disabled") << false << true << current << 17 << 15;
+}
+
+void tst_RdcGridAPaint::cellColours()
+{
+    QFETCH(bool, enabled);
+    QFETCH(bool, focused);
+    QFETCH(int, mode);
+    QFETCH(int, fill);
+    QFETCH(int, ink);
+    GridWindow w(6, 3, QSize(260, 160));
+    w.grid->setDefaultDataAlign(RdcGridA::AlignCentre);
+    for (int row = 1; row <= 6; ++row)
+        for (int col = 1; col <= 3; ++col)
+            w.grid->setText(row, col, kBlock);
+    // The current cell (2, 2) inside a selection to (4, 3); (5, 1) stays plain.
+    if (focused)
+        w.click(2, 2);
+    else
+        w.grid->SetCurrentCell(2, 2);
+    QTest::keyClick(w.pic(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(w.pic(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(w.pic(), Qt::Key_Right, Qt::ShiftModifier);
+    if (!focused)
+        w.other->setFocus(); // taking the focus away gives the inactive colours
+    w.grid->setEnabled(enabled);
+    w.grid->Refresh();
+
+    const QPoint cell = mode == RdcGridA::PlainCell ? QPoint(1, 5)
+            : mode == RdcGridA::SelectedCell       ? QPoint(3, 3)
+                                                    : QPoint(2, 2);
+    const QRect rect = w.grid->cellRectangle(cell.y(), cell.x());
+    const QImage image = w.surfaceImage();
+    QCOMPARE(image.pixelColor(rect.left() + 3, rect.top() + 2), systemColor(w.grid, fill));
+    QCOMPARE(image.pixelColor(rect.center()), systemColor(w.grid, ink));
+}
+
+void tst_RdcGridAPaint::textAlignment_data()
+{
+    QTest::addColumn<int>("alignment");
+    QTest::addColumn<int>("firstInkFromLeft"); // offset of the glyph's box from the cell's left
+    QTest::addColumn<int>("lastInkFromRight"); // offset of its end from the grid-line pixel
+
+    QTest::newRow("default (right)") << int(RdcGridA::AlignDefault) << -1 << 2;
+    QTest::newRow("right") << int(RdcGridA::AlignRight) << -1 << 2;
+    QTest::newRow("left") << int(RdcGridA::AlignLeft) << 2 << -1;
+}
+
+void tst_RdcGridAPaint::textAlignment()
+{
+    QFETCH(int, alignment);
+    QFETCH(int, firstInkFromLeft);
+    QFETCH(int, lastInkFromRight);
+    GridWindow w(4, 2, QSize(200, 120));
+    w.grid->setColumnAlignment(1, qint16(alignment));
+    w.grid->setText(2, 1, kBlock + kBlock);
+    w.grid->Refresh();
+    const QRect rect = w.grid->cellRectangle(2, 1);
+    const QImage image = w.surfaceImage();
+    const QColor ink = systemColor(w.grid, GridColors::WindowText);
+    const int y = rect.center().y();
+    // The block glyph may not fill its advance completely; look for the ink's extent.
+    int first = -1;
+    int last = -1;
+    for (int x = rect.left(); x <= rect.right(); ++x) {
+        if (image.pixelColor(x, y) == ink) {
+            if (first < 0)
+                first = x;
+            last = x;
+        }
+    }
+    QVERIFY(first >= 0);
+    const int advance = w.grid->TextWidth(kBlock + kBlock);
+    if (firstInkFromLeft >= 0)
+        QVERIFY2(first >= rect.left() + firstInkFromLeft && first <= rect.left() + 3,
+                 qPrintable(QString::number(first - rect.left())));
+    if (lastInkFromRight >= 0) {
+        QVERIFY2(last <= rect.right() - lastInkFromRight - 1 && last >= rect.right() - 4,
+                 qPrintable(QString::number(rect.right() - last)));
+        QVERIFY(first >= rect.right() - advance - 3);
+    }
+}
+
+void tst_RdcGridAPaint::longTextIsClippedInsideItsCell()
+{
+    // Column 2 aligns left (the text runs out to the right), column 3 right (out to the left).
+    GridWindow w(4, 4, QSize(320, 120));
+    w.grid->SetCurrentCell(4, 4);
+    w.grid->setColumnAlignment(2, RdcGridA::AlignLeft);
+    w.grid->setColumnAlignment(3, RdcGridA::AlignRight);
+    w.grid->setText(2, 2, QString(30, QChar(0x2588)));
+    w.grid->setText(2, 3, QString(30, QChar(0x2588)));
+    w.grid->Refresh();
+    const QImage image = w.surfaceImage();
+    const QColor ink = systemColor(w.grid, GridColors::WindowText);
+    const QColor base = systemColor(w.grid, GridColors::WindowBackground);
+    for (int col : { 2, 3 }) {
+        const QRect rect = w.grid->cellRectangle(2, col);
+        const int y = rect.center().y();
+        QCOMPARE(image.pixelColor(rect.left(), y), base);
+        QCOMPARE(image.pixelColor(rect.left() + 1, y), base);
+        // Ink up to the clipping edges (glyph joins may be antialiased grey, never background).
+        QVERIFY(image.pixelColor(rect.left() + 2, y) != base);
+        QVERIFY(image.pixelColor(rect.right() - 3, y) != base);
+        QCOMPARE(image.pixelColor(rect.center()), ink);
+        QCOMPARE(image.pixelColor(rect.right() - 2, y), base);
+        QCOMPARE(image.pixelColor(rect.right() - 1, y), base);
+    }
+    // The neighbours on both sides are untouched.
+    QCOMPARE(image.pixelColor(w.grid->cellRectangle(2, 1).center()), base);
+    QCOMPARE(image.pixelColor(w.grid->cellRectangle(2, 4).center()), base);
+}
+
+void tst_RdcGridAPaint::disabledGridIsGrey()
+{
+    GridWindow w(4, 2, QSize(200, 120));
+    w.grid->setText(1, 1, QStringLiteral("1"));
+    w.grid->SetCurrentCell(3, 2);
+    w.grid->setEnabled(false);
+    w.grid->Refresh();
+    const QImage image = w.surfaceImage();
+    const QColor face = systemColor(w.grid, GridColors::ButtonFace);
+    for (int row = 1; row <= 2; ++row)
+        for (int col = 1; col <= 2; ++col)
+            QCOMPARE(image.pixelColor(w.grid->cellRectangle(row, col).topLeft()), face);
+    // A disabled grid still refuses editing.
+    QTest::keyClick(w.pic(), Qt::Key_5);
+    QVERIFY(!w.grid->isEditing());
+}
+
+void tst_RdcGridAPaint::columnResizeByDragging_data()
+{
+    QTest::addColumn<int>("dx");
+    QTest::addColumn<int>("expectedWidth");
+    QTest::newRow("wider") << 20 << 85;
+    QTest::newRow("narrower") << -30 << 35;
+    QTest::newRow("down to 5") << -60 << 5;
+    QTest::newRow("4 is the minimum") << -61 << 4;
+    QTest::newRow("past the left edge") << -90 << 4;
+}
+
+void tst_RdcGridAPaint::columnResizeByDragging()
+{
+    QFETCH(int, dx);
+    QFETCH(int, expectedWidth);
+    GridWindow w(4, 3, QSize(300, 120));
+    const QRect header = w.grid->GetColumnHeaderRectangle(2);
+    const QPoint border(header.right(), header.center().y());
+    QCOMPARE(w.grid->HitZone(border.x(), border.y()), int(RdcGridA::ZoneColumnHeader));
+    const RdcGridA::SelectionRange before = w.grid->GetSelectionRange();
+    QTest::mousePress(w.pic(), Qt::LeftButton, Qt::NoModifier, border);
+    QTest::mouseMove(w.pic(), border + QPoint(dx, 10));
+    QTest::mouseRelease(w.pic(), Qt::LeftButton, Qt::NoModifier, border + QPoint(dx, 10));
+    QCOMPARE(w.grid->ColumnWidth(2), expectedWidth);
+    QCOMPARE(w.grid->ColumnWidth(1), 65);
+    QCOMPARE(w.grid->GetSelectionRange().leftCol, before.leftCol); // no column selected
+}
+
+void tst_RdcGridAPaint::resizeGuideInvertsAndErases()
+{
+    GridWindow w(4, 3, QSize(300, 120));
+    const QRect header = w.grid->GetColumnHeaderRectangle(1);
+    const QPoint border(header.right(), header.center().y());
+    const QPoint guide = border + QPoint(15, 0);
+    const QPoint probe(guide.x(), w.grid->cellRectangle(2, 2).center().y());
+    const QImage clean = w.surfaceImage();
+    QTest::mousePress(w.pic(), Qt::LeftButton, Qt::NoModifier, border);
+    QTest::mouseMove(w.pic(), guide);
+    const QImage during = w.surfaceImage();
+    const QColor under = clean.pixelColor(probe);
+    QCOMPARE(during.pixelColor(probe),
+             QColor(255 - under.red(), 255 - under.green(), 255 - under.blue()));
+    QCOMPARE(during.pixelColor(border.x(), probe.y()), clean.pixelColor(border.x(), probe.y()));
+    QTest::mouseMove(w.pic(), guide + QPoint(5, 0));
+    QCOMPARE(w.surfaceImage().pixelColor(probe), under); // the old guide is erased
+    QTest::mouseRelease(w.pic(), Qt::LeftButton, Qt::NoModifier, guide + QPoint(5, 0));
+}
+
+QTEST_MAIN(tst_RdcGridAPaint)
+#include "tst_RdcGridAPaint.moc"
