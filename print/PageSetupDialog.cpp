@@ -45,13 +45,16 @@ PageSetupDialog::PageSetupDialog(const ReportPageSetup &setup, const PageMargins
                                          | QDialogButtonBox::Reset);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons->button(QDialogButtonBox::Reset), &QPushButton::clicked, this,
-            [this] { setMargins(m_fileMargins); });
+    QPushButton *reset = buttons->button(QDialogButtonBox::Reset);
+    reset->setText(QStringLiteral("&Default Margins"));
+    reset->setToolTip(QStringLiteral("The margins of Margins.ini in the program folder"));
+    connect(reset, &QPushButton::clicked, this, [this] { setMargins(m_fileMargins); });
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(createPaperGroup());
     layout->addWidget(createMarginGroup());
     layout->addWidget(buttons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 52);
 
     setPageSize(setup.pageSize.id());
     setOrientation(setup.orientation);

@@ -25,7 +25,7 @@ struct ReportPageSetup
 };
 
 // The Page Setup dialog: paper size, orientation and the four margins in the unit of the
-// margins record (inches or millimetres). Reset puts back the margins it was opened with.
+// margins record (inches or millimetres). "Default Margins" puts back those of Margins.ini.
 class PageSetupDialog : public QDialog
 {
     Q_OBJECT

@@ -6,6 +6,7 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QPrinter>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -298,8 +299,15 @@ void tst_PrintRoutine::pageSetupDialogKeepsFileMarginsUnlessChanged()
     QCOMPARE(changed.orientation, QPageLayout::Landscape);
     QCOMPARE(changed.pageSize.id(), QPageSize::A4);
 
-    dialog.setMargins(file); // what Reset does
+    QPushButton *defaults = nullptr;
+    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
+        if (button->text() == QStringLiteral("&Default Margins"))
+            defaults = button;
+    }
+    QVERIFY(defaults);
+    QTest::mouseClick(defaults, Qt::LeftButton);
     QVERIFY(!dialog.setup().marginsChosen);
+    QCOMPARE(boxes[0]->value(), 20.0);
 }
 
 int runPrintRoutineTests(int argc, char **argv)
