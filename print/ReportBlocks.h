@@ -4,12 +4,10 @@
 #include "ReportLayout.h"
 #include "TextFitting.h"
 
-#include <QRectF>
-
 #include <vector>
 
 // The pieces the layout stacks on its pages: blocks that never break (a heading, a table row, a
-// wrapped field) and the page header and footer. Used by layoutReport only.
+// wrapped field). Used by layoutReport only.
 
 struct ReportBlock
 {
@@ -34,22 +32,3 @@ struct BlockList
 // inputs and the results line up alike.
 BlockList buildReportBlocks(const ReportContent &content, double left, double width,
                             const TextMeasure &measure);
-
-// The page header (program name, job name, a rule) and the footer (a rule, project file,
-// "Page i of n") inside the printable area.
-class PageFurniture
-{
-public:
-    PageFurniture(const QRectF &area, const TextMeasure &measure);
-
-    double bodyTop() const { return m_bodyTop; }
-    double bodyBottom() const { return m_bodyBottom; }
-    void addTo(ReportPage &page, const ReportContent &content, int number, int count) const;
-
-private:
-    QRectF m_area;
-    const TextMeasure &m_measure;
-    double m_lineHeight;
-    double m_bodyTop;
-    double m_bodyBottom;
-};

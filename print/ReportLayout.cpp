@@ -1,5 +1,6 @@
 #include "ReportLayout.h"
 
+#include "PageFurniture.h"
 #include "ReportBlocks.h"
 
 #include <algorithm>
