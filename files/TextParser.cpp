@@ -29,6 +29,34 @@ int clampedLength(const std::string &text)
     // The cursor is a 16-bit integer in the design; longer texts are cut to what it can reach.
     return text.size() > 32767 ? 32767 : static_cast<int>(text.size());
 }
+
+// The cursor rules both parsers share. The token starts at the cursor (so it keeps the blanks
+// before it); the separator search starts one place after the first non-blank character.
+// `consumed` is 0 when the cursor stays on the separator, 1 when it steps past it.
+template<typename IsSeparator>
+bool readToken(const std::string &text, int length, int &position, IsSeparator isSeparator,
+               int consumed, std::string &token)
+{
+    token.clear();
+    if (position > length)
+        return false;
+    const int start = firstNonBlank(text, position, length);
+    if (start == length) {
+        token = slice(text, position, length);
+        position = length + 1;
+        return true;
+    }
+    int end = length + 1;
+    for (int i = start + 1; i <= length; ++i) {
+        if (isSeparator(at(text, i))) {
+            end = i;
+            break;
+        }
+    }
+    token = slice(text, position, end - 1);
+    position = end + consumed;
+    return true;
+}
 } // namespace
 
 void clsTextParser::setText(const std::string &text)
@@ -46,25 +74,8 @@ bool clsTextParser::GetFirstToken(std::string &token)
 
 bool clsTextParser::GetNextToken(std::string &token)
 {
-    token.clear();
-    if (m_position > m_length)
-        return false;
-    const int start = firstNonBlank(m_text, m_position, m_length);
-    if (start == m_length) {
-        token = slice(m_text, m_position, m_length);
-        m_position = m_length + 1;
-        return true;
-    }
-    int end = m_length + 1;
-    for (int i = start + 1; i <= m_length; ++i) {
-        if (at(m_text, i) == ' ') {
-            end = i;
-            break;
-        }
-    }
-    token = slice(m_text, m_position, end - 1);
-    m_position = end; // the cursor stays on the separating blank
-    return true;
+    // The cursor stays on the separating blank.
+    return readToken(m_text, m_length, m_position, [](char c) { return c == ' '; }, 0, token);
 }
 
 void clsTextParserExt::setText(const std::string &text)
@@ -87,24 +98,7 @@ bool clsTextParserExt::GetFirstToken(std::string &token)
 
 bool clsTextParserExt::GetNextToken(std::string &token)
 {
-    token.clear();
     const std::string &delimiters = activeDelimiters();
-    if (m_position > m_length)
-        return false;
-    const int start = firstNonBlank(m_text, m_position, m_length);
-    if (start == m_length) {
-        token = slice(m_text, m_position, m_length);
-        m_position = m_length + 1;
-        return true;
-    }
-    int end = m_length + 1;
-    for (int i = start + 1; i <= m_length; ++i) {
-        if (delimiters.find(at(m_text, i)) != std::string::npos) {
-            end = i;
-            break;
-        }
-    }
-    token = slice(m_text, m_position, end - 1);
-    m_position = end + 1; // the delimiter is consumed
-    return true;
+    const auto isDelimiter = [&delimiters](char c) { return delimiters.find(c) != std::string::npos; };
+    return readToken(m_text, m_length, m_position, isDelimiter, 1, token); // the delimiter is consumed
 }
