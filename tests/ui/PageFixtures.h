@@ -2,6 +2,7 @@
 
 #include "PageLayout.h"
 
+#include <QStringList>
 #include <QWidget>
 
 #include <memory>
@@ -21,3 +22,10 @@ struct ResultsPageFixture
     std::unique_ptr<QWidget> panel;
     ResultsPageControls controls;
 };
+
+// Object names of the shown children of `panel` (push buttons aside), from the top down.
+QStringList shownFromTheTop(const QWidget *panel);
+// The items of each page from the top, as the pages' section tables list them for a solution
+// method and a channel-flow method (0: none chosen).
+QStringList expectedInputOrder(int method, int flow);
+QStringList expectedResultsOrder(int method, int flow);
