@@ -14,7 +14,9 @@
 class StoreIndexError : public std::out_of_range
 {
 public:
-    explicit StoreIndexError(const std::string &what) : std::out_of_range(what) { }
+    explicit StoreIndexError(const std::string &what)
+        : std::out_of_range(what)
+    { }
 };
 
 namespace BoundedArrayDetail {
@@ -68,11 +70,13 @@ class BoundedArray2D
 public:
     BoundedArray2D() = default;
     BoundedArray2D(int firstRow, int lastRow, int firstCol, int lastCol)
-        : m_firstRow(firstRow), m_lastRow(lastRow), m_firstCol(firstCol), m_lastCol(lastCol),
-          m_items(static_cast<size_t>(std::max(0, lastRow - firstRow + 1))
+        : m_firstRow(firstRow)
+        , m_lastRow(lastRow)
+        , m_firstCol(firstCol)
+        , m_lastCol(lastCol)
+        , m_items(static_cast<size_t>(std::max(0, lastRow - firstRow + 1))
                   * static_cast<size_t>(std::max(0, lastCol - firstCol + 1)))
-    {
-    }
+    { }
 
     int firstRow() const { return m_firstRow; }
     int lastRow() const { return m_lastRow; }

@@ -6,7 +6,8 @@
 #include <QKeyEvent>
 
 GridCellEditor::GridCellEditor(RdcGridA *grid, QWidget *surface)
-    : QLineEdit(surface), m_grid(grid)
+    : QLineEdit(surface)
+    , m_grid(grid)
 {
     setFrame(false);
 }

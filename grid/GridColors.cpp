@@ -47,7 +47,8 @@ quint32 fromColor(const QColor &color)
 
 QColor blend(const QColor &a, const QColor &b, double t)
 {
-    const auto mix = [t](int from, int to) { return static_cast<int>(from + (to - from) * t + 0.5); };
+    const auto mix
+            = [t](int from, int to) { return static_cast<int>(from + (to - from) * t + 0.5); };
     return QColor(mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue()));
 }
 

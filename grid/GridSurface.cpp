@@ -5,7 +5,9 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-GridSurface::GridSurface(RdcGridA *grid) : QWidget(grid), m_grid(grid)
+GridSurface::GridSurface(RdcGridA *grid)
+    : QWidget(grid)
+    , m_grid(grid)
 {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // the resize cursor follows the pointer over header borders

@@ -42,13 +42,26 @@ QFont titleFont(const QFont &base)
 } // namespace
 
 const char *const RdcGridA::PropertyKeys[16] = {
-    "DefDataColWidth", "DefRowHeaderWidth", "DefDataAlign", "ReadOnly",
-    "Enabled",         "Cols",              "Rows",         "BackColor",
-    "CellBackColor",   "TitleVisible",      "TitleHeight",  "Title",
-    "HeaderRowHeight", "DataRowHeight",     "RowLabelAlign", "BoldColumnHeaders",
+    "DefDataColWidth",
+    "DefRowHeaderWidth",
+    "DefDataAlign",
+    "ReadOnly",
+    "Enabled",
+    "Cols",
+    "Rows",
+    "BackColor",
+    "CellBackColor",
+    "TitleVisible",
+    "TitleHeight",
+    "Title",
+    "HeaderRowHeight",
+    "DataRowHeight",
+    "RowLabelAlign",
+    "BoldColumnHeaders",
 };
 
-RdcGridA::RdcGridA(QWidget *parent) : QWidget(parent)
+RdcGridA::RdcGridA(QWidget *parent)
+    : QWidget(parent)
 {
     m_titleBar = new QLabel(this);
     m_titleBar->setObjectName(QStringLiteral("Titlebar"));
@@ -68,7 +81,8 @@ RdcGridA::RdcGridA(QWidget *parent) : QWidget(parent)
         bar->setFocusPolicy(Qt::NoFocus);
         bar->hide();
     }
-    connect(m_hsc, &QScrollBar::valueChanged, this, [this](int col) { setFirstVisibleColumn(col); });
+    connect(m_hsc, &QScrollBar::valueChanged, this,
+            [this](int col) { setFirstVisibleColumn(col); });
     connect(m_vsc, &QScrollBar::valueChanged, this, [this](int row) { setFirstVisibleRow(row); });
 
     m_txt = new GridCellEditor(this, m_pic);

@@ -40,8 +40,13 @@ public:
     // Modes of PaintCell.
     enum PaintMode { PlainCell = 1, SelectedCell = 2, MarkedCurrentCell = 3 };
     // Codes of HitZone; 2 and 4 are never produced.
-    enum Zone { ZoneNone = 0, ZoneCorner = 1, ZoneColumnHeader = 3, ZoneRowHeader = 5,
-                ZoneDataCell = 6 };
+    enum Zone {
+        ZoneNone = 0,
+        ZoneCorner = 1,
+        ZoneColumnHeader = 3,
+        ZoneRowHeader = 5,
+        ZoneDataCell = 6
+    };
     // Codes of IsCellVisible.
     enum Visibility { NotVisible = 0, FullyVisible = 1, PartlyVisible = 2 };
     // Alignment codes of ColumnAlignment, DefaultDataAlign and RowLabelAlign; 0 in a column
@@ -166,7 +171,7 @@ public:
     bool bak_InsertSelectedRows() { return false; }
     bool bak_SaveCurrentState() { return false; }
 
-    // --- Geometry and painting (RdcGridAPaint.cpp) -------------------------------------------
+    // --- Geometry and painting (RdcGridALayout.cpp, RdcGridAPaint.cpp) ---------------------
     // Places the title bar, the drawing surface and the scroll bars that the content needs,
     // then records the zone rectangles.
     void ProportionGrid();
@@ -237,22 +242,23 @@ private:
 
     // Store helpers (RdcGridA.cpp)
     static QString withoutBlanks(const QString &text); // blanks (spaces) only, both ends
+    static QStringList textLines(const QString &text); // split at CR LF, CR or LF
     void rebuildColumnsFromDefaults();
     QString storedText(int row, int col) const; // never faults: "" outside the arrays
     void emptyCells(const SelectionRange &range);
     void writeCell(int row, int col, const QString &value); // setText that never faults
     void setDataChanged();
 
-    // Geometry helpers (RdcGridAPaint.cpp)
+    // Geometry helpers (RdcGridALayout.cpp)
     int widthOf(int col) const;
     int columnLeft(int col) const; // left edge of a visible column, or -1
-    int rowTop(int row) const;     // top edge of a visible row, or -1
+    int rowTop(int row) const; // top edge of a visible row, or -1
     int rowVisibility(int row) const;
     int columnVisibility(int col) const;
     int fullyVisibleRowCount() const;
     int maxFirstVisibleRow() const;
     int maxFirstVisibleColumn() const;
-    int rowAt(int y) const;    // row under a surface y, clamped to the visible rows
+    int rowAt(int y) const; // row under a surface y, clamped to the visible rows
     int columnAt(int x) const; // column under a surface x, clamped to the visible columns
     int columnBorderAt(int x, int y) const; // column whose header border is under the point, or 0
     void setFirstVisibleRow(int row);
@@ -334,11 +340,11 @@ private:
     bool m_boldColumnHeaders = false;
 
     // Store
-    BoundedArray<int> m_columnWidths;         // 0..Cols, 0 is the row-header column
-    BoundedArray<qint16> m_columnAlignments;  // 1..Cols
-    BoundedArray2D<QString> m_cells;          // (1..Rows, 1..Cols) as at the first write
+    BoundedArray<int> m_columnWidths; // 0..Cols, 0 is the row-header column
+    BoundedArray<qint16> m_columnAlignments; // 1..Cols
+    BoundedArray2D<QString> m_cells; // (1..Rows, 1..Cols) as at the first write
     bool m_cellsAllocated = false;
-    BoundedArray<QString> m_headerLabels;     // 1..Cols
+    BoundedArray<QString> m_headerLabels; // 1..Cols
     bool m_headerLabelsAllocated = false;
     bool m_changed = false;
 

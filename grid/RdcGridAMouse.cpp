@@ -145,10 +145,10 @@ void RdcGridA::autoScrollTick()
         m_timer1->stop();
         return;
     }
-    const bool movesRows = m_selectionKind == SelectionKind::Cells
-            || m_selectionKind == SelectionKind::Rows;
-    const bool movesColumns = m_selectionKind == SelectionKind::Cells
-            || m_selectionKind == SelectionKind::Columns;
+    const bool movesRows
+            = m_selectionKind == SelectionKind::Cells || m_selectionKind == SelectionKind::Rows;
+    const bool movesColumns
+            = m_selectionKind == SelectionKind::Cells || m_selectionKind == SelectionKind::Columns;
     const int quadrant = GetRowNumQuadrant(m_lastDragPoint.y());
     if (movesRows && quadrant == QuadrantAbove && m_firstVisibleRow >= 2) {
         setFirstVisibleRow(m_firstVisibleRow - 1);

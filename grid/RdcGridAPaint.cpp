@@ -1,13 +1,10 @@
-// Geometry and painting of RdcGridA: layout, zones, visibility, cells and headers.
+// Painting of RdcGridA: cells with their mode colours, headers, borders and the selection frame.
 #include "RdcGridA.h"
 
-#include "GridCellEditor.h"
 #include "GridSurface.h"
 
 #include <QFontMetrics>
-#include <QLabel>
 #include <QPainter>
-#include <QScrollBar>
 
 #include <algorithm>
 #include <cmath>
@@ -17,14 +14,6 @@ namespace {
 int roundHalfEven(double value)
 {
     return static_cast<int>(std::nearbyint(value));
-}
-
-QStringList captionLines(const QString &text)
-{
-    QString unified = text;
-    unified.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    unified.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    return unified.split(QLatin1Char('\n'));
 }
 
 // x of a text of width w in a cell from left to right (right = the grid-line pixel).
@@ -41,266 +30,6 @@ int alignedLeft(int alignment, int left, int right, int w)
     }
 }
 } // namespace
-
-// --- Layout ----------------------------------------------------------------------------------
-
-void RdcGridA::ProportionGrid()
-{
-    int top = 0;
-    if (m_titleVisible) {
-        m_titleBar->setGeometry(0, 0, width(), m_titleHeight);
-        top = m_titleHeight;
-    }
-    const int availableWidth = std::max(0, width());
-    const int availableHeight = std::max(0, height() - top);
-    const int contentWidth = OptimumWidth();
-    const int contentHeight = m_headerRowHeight + m_rows * m_dataRowHeight;
-    const int barWidth = m_vsc->sizeHint().width();
-    const int barHeight = m_hsc->sizeHint().height();
-
-    // Each bar takes room from the other direction, so the first test is repeated once the
-    // other bar has appeared.
-    bool horizontal = contentWidth > availableWidth;
-    const bool vertical = contentHeight > availableHeight - (horizontal ? barHeight : 0);
-    if (vertical && !horizontal)
-        horizontal = contentWidth > availableWidth - barWidth;
-
-    const int surfaceWidth = std::max(0, availableWidth - (vertical ? barWidth : 0));
-    const int surfaceHeight = std::max(0, availableHeight - (horizontal ? barHeight : 0));
-    m_pic->setGeometry(0, top, surfaceWidth, surfaceHeight);
-    m_vsc->setGeometry(surfaceWidth, top, barWidth, surfaceHeight);
-    m_hsc->setGeometry(0, top + surfaceHeight, surfaceWidth, barHeight);
-    m_vsc->setVisible(vertical);
-    m_hsc->setVisible(horizontal);
-
-    const int right = surfaceWidth - 1;
-    const int bottom = surfaceHeight - 1;
-    const int headerWidth = widthOf(0);
-    m_cornerZone = QRect(QPoint(0, 0), QPoint(headerWidth, m_headerRowHeight));
-    m_columnHeaderZone = QRect(QPoint(headerWidth, 0), QPoint(right, m_headerRowHeight));
-    m_rowHeaderZone = QRect(QPoint(0, m_headerRowHeight), QPoint(headerWidth, bottom));
-    m_dataZone = QRect(QPoint(headerWidth, m_headerRowHeight), QPoint(right, bottom));
-
-    if (!horizontal)
-        m_firstVisibleCol = 1;
-    if (!vertical)
-        m_firstVisibleRow = 1;
-    m_firstVisibleRow = std::clamp(m_firstVisibleRow, 1, maxFirstVisibleRow());
-    m_firstVisibleCol = std::clamp(m_firstVisibleCol, 1, maxFirstVisibleColumn());
-    const QSignalBlocker blockRows(m_vsc);
-    const QSignalBlocker blockColumns(m_hsc);
-    m_vsc->setRange(1, maxFirstVisibleRow());
-    m_vsc->setPageStep(std::max(1, fullyVisibleRowCount()));
-    m_vsc->setValue(m_firstVisibleRow);
-    m_hsc->setRange(1, maxFirstVisibleColumn());
-    m_hsc->setPageStep(1);
-    m_hsc->setValue(m_firstVisibleCol);
-    if (m_editing)
-        placeEditor();
-}
-
-int RdcGridA::widthOf(int col) const
-{
-    return m_columnWidths.contains(col) ? std::max(0, m_columnWidths.at(col)) : 0;
-}
-
-int RdcGridA::columnLeft(int col) const
-{
-    int left = widthOf(0);
-    for (int c = m_firstVisibleCol; c < col; ++c)
-        left += widthOf(c);
-    for (int c = col; c < m_firstVisibleCol; ++c)
-        left -= widthOf(c); // a column scrolled out to the left lies before the row headers
-    return left;
-}
-
-int RdcGridA::rowTop(int row) const
-{
-    return m_headerRowHeight + (row - m_firstVisibleRow) * m_dataRowHeight;
-}
-
-QRect RdcGridA::cellRectangle(int row, int col) const
-{
-    const int left = columnLeft(col);
-    const int top = rowTop(row);
-    return QRect(QPoint(left, top), QPoint(left + widthOf(col) - 1, top + m_dataRowHeight - 1));
-}
-
-QRect RdcGridA::GetColumnHeaderRectangle(int col) const
-{
-    const int left = columnLeft(col);
-    return QRect(QPoint(left, 0), QPoint(left + widthOf(col) - 1, m_headerRowHeight - 1));
-}
-
-int RdcGridA::rowVisibility(int row) const
-{
-    if (row < m_firstVisibleRow || row < 1 || row > m_rows)
-        return NotVisible;
-    const int top = rowTop(row);
-    if (top > m_dataZone.bottom())
-        return NotVisible;
-    return top + m_dataRowHeight - 1 <= m_dataZone.bottom() ? FullyVisible : PartlyVisible;
-}
-
-int RdcGridA::columnVisibility(int col) const
-{
-    if (col < m_firstVisibleCol || col < 1 || col > m_cols)
-        return NotVisible;
-    const int left = columnLeft(col);
-    if (left > m_dataZone.right())
-        return NotVisible;
-    return left + widthOf(col) - 1 <= m_dataZone.right() ? FullyVisible : PartlyVisible;
-}
-
-int RdcGridA::IsCellVisible(int row, int col) const
-{
-    const int rowCode = rowVisibility(row);
-    if (rowCode == NotVisible)
-        return NotVisible;
-    const int colCode = columnVisibility(col);
-    if (colCode == NotVisible)
-        return NotVisible;
-    return rowCode == FullyVisible && colCode == FullyVisible ? FullyVisible : PartlyVisible;
-}
-
-int RdcGridA::fullyVisibleRowCount() const
-{
-    if (m_dataRowHeight <= 0)
-        return m_rows;
-    return std::max(0, (m_dataZone.bottom() - m_headerRowHeight + 1) / m_dataRowHeight);
-}
-
-int RdcGridA::maxFirstVisibleRow() const
-{
-    return std::max(1, m_rows - std::max(1, fullyVisibleRowCount()) + 1);
-}
-
-int RdcGridA::maxFirstVisibleColumn() const
-{
-    const int space = m_dataZone.right() - widthOf(0) + 1;
-    int used = 0;
-    int first = m_cols;
-    while (first >= 1 && used + widthOf(first) <= space) {
-        used += widthOf(first);
-        --first;
-    }
-    // first is now the column that did not fit; at least the last column gets a place.
-    return std::clamp(first + 1, 1, std::max(1, m_cols));
-}
-
-int RdcGridA::LastFullyVisibleColumn() const
-{
-    int last = m_firstVisibleCol - 1;
-    for (int col = m_firstVisibleCol; col <= m_cols; ++col) {
-        if (columnLeft(col) + widthOf(col) - 1 > m_dataZone.right())
-            break;
-        last = col;
-    }
-    return last;
-}
-
-int RdcGridA::GetRowNumQuadrant(int y) const
-{
-    if (y < 0)
-        return QuadrantAbove;
-    if (y > m_pic->height() - 1)
-        return QuadrantBelow;
-    return QuadrantInside;
-}
-
-int RdcGridA::HitZone(int x, int y) const
-{
-    const QPoint point(x, y);
-    if (m_dataZone.contains(point))
-        return ZoneDataCell;
-    if (m_cornerZone.contains(point))
-        return ZoneCorner;
-    if (m_columnHeaderZone.contains(point))
-        return ZoneColumnHeader;
-    if (m_rowHeaderZone.contains(point))
-        return ZoneRowHeader;
-    return ZoneNone;
-}
-
-int RdcGridA::rowAt(int y) const
-{
-    const int lastVisible = std::max(m_firstVisibleRow,
-                                     std::min(m_rows, m_firstVisibleRow + fullyVisibleRowCount()));
-    if (m_dataRowHeight <= 0 || y < m_headerRowHeight)
-        return m_firstVisibleRow;
-    return std::clamp(m_firstVisibleRow + (y - m_headerRowHeight) / m_dataRowHeight,
-                      m_firstVisibleRow, lastVisible);
-}
-
-int RdcGridA::columnAt(int x) const
-{
-    int col = m_firstVisibleCol;
-    int right = widthOf(0) + widthOf(col) - 1;
-    while (x > right && col < m_cols && right < m_dataZone.right()) {
-        ++col;
-        right += widthOf(col);
-    }
-    return col;
-}
-
-int RdcGridA::columnBorderAt(int x, int y) const
-{
-    // A press within this many pixels of a header's right border starts a column resize.
-    constexpr int kBand = 3;
-    if (y < 0 || y >= m_headerRowHeight)
-        return 0;
-    for (int col = m_firstVisibleCol; col <= m_cols; ++col) {
-        const int right = columnLeft(col) + widthOf(col) - 1;
-        if (right - kBand > m_dataZone.right())
-            break;
-        if (std::abs(x - right) <= kBand)
-            return col;
-    }
-    return 0;
-}
-
-void RdcGridA::setFirstVisibleRow(int row)
-{
-    row = std::clamp(row, 1, maxFirstVisibleRow());
-    if (m_editing && !m_endingEdit && row != m_firstVisibleRow)
-        endEdit(EditEnd::Commit);
-    m_firstVisibleRow = row;
-    {
-        const QSignalBlocker block(m_vsc);
-        m_vsc->setValue(row);
-    }
-    paintSurface();
-}
-
-void RdcGridA::setFirstVisibleColumn(int col)
-{
-    col = std::clamp(col, 1, maxFirstVisibleColumn());
-    if (m_editing && !m_endingEdit && col != m_firstVisibleCol)
-        endEdit(EditEnd::Commit);
-    m_firstVisibleCol = col;
-    {
-        const QSignalBlocker block(m_hsc);
-        m_hsc->setValue(col);
-    }
-    paintSurface();
-}
-
-// --- Text metrics --------------------------------------------------------------------------
-
-int RdcGridA::TextHeight(const QString &text) const
-{
-    const QFontMetrics metrics(m_pic->font());
-    return static_cast<int>(captionLines(text).size()) * metrics.height();
-}
-
-int RdcGridA::TextWidth(const QString &text) const
-{
-    const QFontMetrics metrics(m_pic->font());
-    int widest = 0;
-    for (const QString &line : captionLines(text))
-        widest = std::max(widest, metrics.horizontalAdvance(line));
-    return widest;
-}
 
 // --- Painting ------------------------------------------------------------------------------
 
@@ -332,7 +61,8 @@ void RdcGridA::paintSurface()
     m_pic->takeCanvasReset();
     QPainter painter(&canvas);
     painter.setFont(m_pic->font());
-    painter.fillRect(QRect(QPoint(0, 0), m_pic->size()), GridColors::toColor(m_backColor, palette()));
+    painter.fillRect(QRect(QPoint(0, 0), m_pic->size()),
+                     GridColors::toColor(m_backColor, palette()));
     paintCorner(painter);
     paintColumnHeaders(painter);
     paintRowHeadersWith(painter);
@@ -434,8 +164,8 @@ void RdcGridA::paintCellWith(QPainter &painter, int row, int col, int mode)
     const int y = cell.top() + roundHalfEven((m_dataRowHeight - h) / 2.0);
     // Text wider than its cell is cut 2 pixels inside the cell's left and right edges.
     painter.save();
-    painter.setClipRect(QRect(QPoint(cell.left() + 2, cell.top()),
-                              QPoint(cell.right() - 3, cell.bottom())));
+    painter.setClipRect(
+            QRect(QPoint(cell.left() + 2, cell.top()), QPoint(cell.right() - 3, cell.bottom())));
     painter.setPen(color(ink));
     painter.drawText(x, y + QFontMetrics(painter.font()).ascent(), text);
     painter.restore();
@@ -467,8 +197,8 @@ void RdcGridA::paintRowHeadersWith(QPainter &painter)
         const QRect rect(QPoint(0, rowTop(row)),
                          QPoint(widthOf(0) - 1, rowTop(row) + m_dataRowHeight - 1));
         const bool selected = row >= range.topRow && row <= range.bottomRow;
-        paintHeaderCell(painter, rect, QStringList(QString::number(row)), m_rowLabelAlign,
-                        selected, false);
+        paintHeaderCell(painter, rect, QStringList(QString::number(row)), m_rowLabelAlign, selected,
+                        false);
     }
 }
 
@@ -481,9 +211,10 @@ QFont RdcGridA::headerFont(bool bold) const
 
 QStringList RdcGridA::fittedCaptionLines(const QString &caption, bool bold) const
 {
-    const QStringList lines = captionLines(withoutBlanks(caption));
+    const QStringList lines = textLines(withoutBlanks(caption));
     // A caption of several lines that the header row cannot hold is shown on one line.
-    if (static_cast<int>(lines.size()) * QFontMetrics(headerFont(bold)).height() > m_headerRowHeight)
+    if (static_cast<int>(lines.size()) * QFontMetrics(headerFont(bold)).height()
+        > m_headerRowHeight)
         return QStringList(lines.join(QLatin1Char(' ')));
     return lines;
 }
@@ -541,8 +272,7 @@ void RdcGridA::PaintBorder(const QRect &rect, int style)
     m_pic->update(rect);
 }
 
-void RdcGridA::paintBorderWith(QPainter &painter, const QRect &rect, int style,
-                               const QColor &fill)
+void RdcGridA::paintBorderWith(QPainter &painter, const QRect &rect, int style, const QColor &fill)
 {
     using namespace GridColors;
     // Raised: light top-left, dark bottom-right; pressed: the same four colours reversed. The

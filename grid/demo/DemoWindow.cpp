@@ -11,7 +11,8 @@
 
 #include <cmath>
 
-DemoWindow::DemoWindow(QWidget *parent) : QWidget(parent)
+DemoWindow::DemoWindow(QWidget *parent)
+    : QWidget(parent)
 {
     setWindowTitle(QStringLiteral("Rating curve grid"));
     m_grid = new RdcGridA(this);

@@ -302,8 +302,9 @@ void tst_RdcGridA::inertMembers()
 void tst_RdcGridA::ratingCurveGrid()
 {
     const PropertyBag design = ratingCurveGridProperties();
-    QCOMPARE(design.keys(), QStringList({ "ReadOnly", "Cols", "Rows", "TitleVisible",
-                                          "HeaderRowHeight", "DataRowHeight", "RowLabelAlign" }));
+    QCOMPARE(design.keys(),
+             QStringList({ "ReadOnly", "Cols", "Rows", "TitleVisible", "HeaderRowHeight",
+                           "DataRowHeight", "RowLabelAlign" }));
     RdcGridA grid;
     setupRatingCurveGrid(grid);
     QCOMPARE(grid.ReadOnly(), false);

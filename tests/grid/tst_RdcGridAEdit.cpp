@@ -64,44 +64,43 @@ void tst_RdcGridAEdit::keys_data()
                                 ctrl = Qt::ControlModifier, ctrlShift = ctrl | shift;
     QTest::newRow("Down") << QPoint(2, 2) << int(Qt::Key_Down) << none << QPoint(2, 3)
                           << range(3, 2, 3, 2);
-    QTest::newRow("Up at the top") << QPoint(2, 1) << int(Qt::Key_Up) << none << QPoint(2, 1)
-                                   << range(1, 2, 1, 2);
-    QTest::newRow("Left at column 1") << QPoint(1, 2) << int(Qt::Key_Left) << none << QPoint(1, 2)
-                                      << range(2, 1, 2, 1);
-    QTest::newRow("Right at the last column") << QPoint(3, 2) << int(Qt::Key_Right) << none
-                                              << QPoint(3, 2) << range(2, 3, 2, 3);
-    QTest::newRow("Down at the last row") << QPoint(1, 10) << int(Qt::Key_Down) << none
-                                          << QPoint(1, 10) << range(10, 1, 10, 1);
-    QTest::newRow("Shift+Down extends") << QPoint(2, 2) << int(Qt::Key_Down) << shift
-                                        << QPoint(2, 2) << range(2, 2, 3, 2);
-    QTest::newRow("Shift+Up extends upwards") << QPoint(2, 2) << int(Qt::Key_Up) << shift
-                                              << QPoint(2, 2) << range(1, 2, 2, 2);
-    QTest::newRow("Shift+Left at column 1") << QPoint(1, 2) << int(Qt::Key_Left) << shift
-                                            << QPoint(1, 2) << range(2, 1, 2, 1);
-    QTest::newRow("Shift+Right at the last column") << QPoint(3, 2) << int(Qt::Key_Right) << shift
-                                                    << QPoint(3, 2) << range(2, 3, 2, 3);
-    QTest::newRow("Enter walks right") << QPoint(2, 2) << int(Qt::Key_Return) << none
-                                       << QPoint(3, 2) << range(2, 3, 2, 3);
-    QTest::newRow("Enter wraps to the next row") << QPoint(3, 2) << int(Qt::Key_Enter) << none
-                                                 << QPoint(1, 3) << range(3, 1, 3, 1);
-    QTest::newRow("Enter on the last cell") << QPoint(3, 10) << int(Qt::Key_Return) << none
-                                            << QPoint(3, 10) << range(10, 3, 10, 3);
-    QTest::newRow("Home alone does nothing") << QPoint(2, 4) << int(Qt::Key_Home) << none
-                                             << QPoint(2, 4) << range(4, 2, 4, 2);
+    QTest::newRow("Up at the top")
+            << QPoint(2, 1) << int(Qt::Key_Up) << none << QPoint(2, 1) << range(1, 2, 1, 2);
+    QTest::newRow("Left at column 1")
+            << QPoint(1, 2) << int(Qt::Key_Left) << none << QPoint(1, 2) << range(2, 1, 2, 1);
+    QTest::newRow("Right at the last column")
+            << QPoint(3, 2) << int(Qt::Key_Right) << none << QPoint(3, 2) << range(2, 3, 2, 3);
+    QTest::newRow("Down at the last row")
+            << QPoint(1, 10) << int(Qt::Key_Down) << none << QPoint(1, 10) << range(10, 1, 10, 1);
+    QTest::newRow("Shift+Down extends")
+            << QPoint(2, 2) << int(Qt::Key_Down) << shift << QPoint(2, 2) << range(2, 2, 3, 2);
+    QTest::newRow("Shift+Up extends upwards")
+            << QPoint(2, 2) << int(Qt::Key_Up) << shift << QPoint(2, 2) << range(1, 2, 2, 2);
+    QTest::newRow("Shift+Left at column 1")
+            << QPoint(1, 2) << int(Qt::Key_Left) << shift << QPoint(1, 2) << range(2, 1, 2, 1);
+    QTest::newRow("Shift+Right at the last column")
+            << QPoint(3, 2) << int(Qt::Key_Right) << shift << QPoint(3, 2) << range(2, 3, 2, 3);
+    QTest::newRow("Enter walks right")
+            << QPoint(2, 2) << int(Qt::Key_Return) << none << QPoint(3, 2) << range(2, 3, 2, 3);
+    QTest::newRow("Enter wraps to the next row")
+            << QPoint(3, 2) << int(Qt::Key_Enter) << none << QPoint(1, 3) << range(3, 1, 3, 1);
+    QTest::newRow("Enter on the last cell")
+            << QPoint(3, 10) << int(Qt::Key_Return) << none << QPoint(3, 10) << range(10, 3, 10, 3);
+    QTest::newRow("Home alone does nothing")
+            << QPoint(2, 4) << int(Qt::Key_Home) << none << QPoint(2, 4) << range(4, 2, 4, 2);
     QTest::newRow("Ctrl+Home") << QPoint(2, 4) << int(Qt::Key_Home) << ctrl << QPoint(1, 1)
                                << range(1, 1, 1, 1);
-    QTest::newRow("Ctrl+Shift+Home") << QPoint(2, 4) << int(Qt::Key_Home) << ctrlShift
-                                     << QPoint(2, 4) << range(1, 1, 4, 2);
-    QTest::newRow("End goes to the row's last column") << QPoint(1, 4) << int(Qt::Key_End) << none
-                                                       << QPoint(3, 4) << range(4, 3, 4, 3);
+    QTest::newRow("Ctrl+Shift+Home")
+            << QPoint(2, 4) << int(Qt::Key_Home) << ctrlShift << QPoint(2, 4) << range(1, 1, 4, 2);
+    QTest::newRow("End goes to the row's last column")
+            << QPoint(1, 4) << int(Qt::Key_End) << none << QPoint(3, 4) << range(4, 3, 4, 3);
     QTest::newRow("Shift+End") << QPoint(1, 4) << int(Qt::Key_End) << shift << QPoint(1, 4)
                                << range(4, 1, 4, 3);
     // Data stands in (6, 1) and (2, 3): the last used row and column come from different cells.
-    QTest::newRow("Ctrl+End goes to the last used cell") << QPoint(1, 1) << int(Qt::Key_End)
-                                                         << ctrl << QPoint(3, 6)
-                                                         << range(6, 3, 6, 3);
-    QTest::newRow("Ctrl+A selects everything") << QPoint(2, 2) << int(Qt::Key_A) << ctrl
-                                               << QPoint(2, 2) << range(1, 1, 10, 3);
+    QTest::newRow("Ctrl+End goes to the last used cell")
+            << QPoint(1, 1) << int(Qt::Key_End) << ctrl << QPoint(3, 6) << range(6, 3, 6, 3);
+    QTest::newRow("Ctrl+A selects everything")
+            << QPoint(2, 2) << int(Qt::Key_A) << ctrl << QPoint(2, 2) << range(1, 1, 10, 3);
 }
 
 void tst_RdcGridAEdit::keys()
@@ -149,21 +148,23 @@ void tst_RdcGridAEdit::pageKeys()
 void tst_RdcGridAEdit::editing_data()
 {
     QTest::addColumn<QString>("startKeys"); // typed on the surface; "F2" for the F2 key
-    QTest::addColumn<QString>("typed");     // typed in the editor
+    QTest::addColumn<QString>("typed"); // typed in the editor
     QTest::addColumn<int>("endKey");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<int>("changes");
 
-    QTest::newRow("F2 keeps the text, Enter commits") << "F2" << "5" << int(Qt::Key_Return)
-                                                      << "1.25" << 2;
-    QTest::newRow("a typed digit replaces the text") << "7" << ".5" << int(Qt::Key_Return)
-                                                     << "7.5" << 2;
-    QTest::newRow("Space keeps the text") << " " << "" << int(Qt::Key_Enter) << "1.2" << 2;
-    QTest::newRow("blanks are trimmed on commit") << "F2" << "  " << int(Qt::Key_Return)
-                                                  << "1.2" << 2;
-    QTest::newRow("Escape stores nothing") << "9" << "9" << int(Qt::Key_Escape) << " 1.2 " << 0;
-    QTest::newRow("a letter starts an edit too") << "a" << "b" << int(Qt::Key_Return) << "ab"
-                                                 << 2;
+    QTest::newRow("F2 keeps the text, Enter commits") << "F2"
+                                                      << "5" << int(Qt::Key_Return) << "1.25" << 2;
+    QTest::newRow("a typed digit replaces the text") << "7"
+                                                     << ".5" << int(Qt::Key_Return) << "7.5" << 2;
+    QTest::newRow("Space keeps the text") << " "
+                                          << "" << int(Qt::Key_Enter) << "1.2" << 2;
+    QTest::newRow("blanks are trimmed on commit") << "F2"
+                                                  << "  " << int(Qt::Key_Return) << "1.2" << 2;
+    QTest::newRow("Escape stores nothing") << "9"
+                                           << "9" << int(Qt::Key_Escape) << " 1.2 " << 0;
+    QTest::newRow("a letter starts an edit too") << "a"
+                                                 << "b" << int(Qt::Key_Return) << "ab" << 2;
 }
 
 void tst_RdcGridAEdit::editing()
@@ -296,29 +297,25 @@ void tst_RdcGridAEdit::paste_data()
     QTest::addColumn<QStringList>("cells"); // "row,col=text"
     QTest::addColumn<int>("changes");
 
-    QTest::newRow("blank and comma separate") << "1.5 20\r\n3,40" << QPoint(1, 1)
-                                              << QStringList({ "1,1=1.5", "1,2=20", "2,1=3",
-                                                               "2,2=40" })
-                                              << 5;
-    QTest::newRow("tabs and CR LF, as copied") << "1\t2\r\n3\t4\r\n" << QPoint(1, 2)
-                                               << QStringList({ "2,1=1", "2,2=2", "3,1=3",
-                                                                "3,2=4" })
-                                               << 5;
-    QTest::newRow("LF line ends") << "5\t6\n7\t8\n" << QPoint(1, 1)
+    QTest::newRow("blank and comma separate")
+            << "1.5 20\r\n3,40" << QPoint(1, 1)
+            << QStringList({ "1,1=1.5", "1,2=20", "2,1=3", "2,2=40" }) << 5;
+    QTest::newRow("tabs and CR LF, as copied")
+            << "1\t2\r\n3\t4\r\n"
+            << QPoint(1, 2) << QStringList({ "2,1=1", "2,2=2", "3,1=3", "3,2=4" }) << 5;
+    QTest::newRow("LF line ends") << "5\t6\n7\t8\n"
+                                  << QPoint(1, 1)
                                   << QStringList({ "1,1=5", "1,2=6", "2,1=7", "2,2=8" }) << 5;
-    QTest::newRow("CR alone ends a line") << "1\r2" << QPoint(2, 1)
-                                          << QStringList({ "1,2=1", "2,2=2", "1,1=" }) << 3;
-    QTest::newRow("tokens past the last column dropped") << "1 2 3 4" << QPoint(2, 1)
-                                                         << QStringList({ "1,2=1", "1,3=" })
-                                                         << 2;
-    QTest::newRow("lines past the last row dropped") << "a\r\nb\r\nc" << QPoint(1, 9)
-                                                     << QStringList({ "9,1=a", "10,1=b" }) << 3;
-    QTest::newRow("the tokenizer keeps a leading blank") << "1.5, 2.0" << QPoint(1, 1)
-                                                         << QStringList({ "1,1=1.5", "1,2= 2.0" })
-                                                         << 3;
-    QTest::newRow("an empty line writes nothing") << "1\r\n\r\n3" << QPoint(1, 1)
-                                                  << QStringList({ "1,1=1", "2,1=old", "3,1=3" })
-                                                  << 3;
+    QTest::newRow("CR alone ends a line")
+            << "1\r2" << QPoint(2, 1) << QStringList({ "1,2=1", "2,2=2", "1,1=" }) << 3;
+    QTest::newRow("tokens past the last column dropped")
+            << "1 2 3 4" << QPoint(2, 1) << QStringList({ "1,2=1", "1,3=" }) << 2;
+    QTest::newRow("lines past the last row dropped")
+            << "a\r\nb\r\nc" << QPoint(1, 9) << QStringList({ "9,1=a", "10,1=b" }) << 3;
+    QTest::newRow("the tokenizer keeps a leading blank")
+            << "1.5, 2.0" << QPoint(1, 1) << QStringList({ "1,1=1.5", "1,2= 2.0" }) << 3;
+    QTest::newRow("an empty line writes nothing")
+            << "1\r\n\r\n3" << QPoint(1, 1) << QStringList({ "1,1=1", "2,1=old", "3,1=3" }) << 3;
 }
 
 void tst_RdcGridAEdit::paste()
@@ -405,17 +402,17 @@ void tst_RdcGridAEdit::mouseSelection_data()
     QTest::addColumn<Range>("selection");
     QTest::addColumn<QPoint>("current"); // (column, row)
 
-    QTest::newRow("corner selects all") << QPoint(5, 5) << Qt::KeyboardModifiers()
-                                        << range(1, 1, 6, 3) << QPoint(2, 2);
+    QTest::newRow("corner selects all")
+            << QPoint(5, 5) << Qt::KeyboardModifiers() << range(1, 1, 6, 3) << QPoint(2, 2);
     QTest::newRow("column header") << QPoint(30 + 65 + 30, 10) << Qt::KeyboardModifiers()
                                    << range(1, 2, 6, 2) << QPoint(2, 1);
     QTest::newRow("row header") << QPoint(10, 20 + 3 * 20 + 10) << Qt::KeyboardModifiers()
                                 << range(4, 1, 4, 3) << QPoint(1, 4);
     QTest::newRow("data cell") << QPoint(-5, -3) << Qt::KeyboardModifiers() << range(5, 3, 5, 3)
                                << QPoint(3, 5);
-    QTest::newRow("shift+click extends") << QPoint(-5, -3)
-                                         << Qt::KeyboardModifiers(Qt::ShiftModifier)
-                                         << range(2, 2, 5, 3) << QPoint(2, 2);
+    QTest::newRow("shift+click extends")
+            << QPoint(-5, -3) << Qt::KeyboardModifiers(Qt::ShiftModifier) << range(2, 2, 5, 3)
+            << QPoint(2, 2);
 }
 
 void tst_RdcGridAEdit::mouseSelection()

@@ -84,8 +84,8 @@ void tst_RdcGridAPaint::hitZone_data()
     QTest::newRow("common corner counts as data") << QPoint(30, 20) << int(RdcGridA::ZoneDataCell);
     QTest::newRow("data edge below the headers") << QPoint(60, 20) << int(RdcGridA::ZoneDataCell);
     QTest::newRow("corner's right edge") << QPoint(30, 5) << int(RdcGridA::ZoneCorner);
-    QTest::newRow("row header's right edge is data") << QPoint(30, 60)
-                                                     << int(RdcGridA::ZoneDataCell);
+    QTest::newRow("row header's right edge is data")
+            << QPoint(30, 60) << int(RdcGridA::ZoneDataCell);
     QTest::newRow("left of the surface") << QPoint(-1, 60) << int(RdcGridA::ZoneNone);
     QTest::newRow("below the surface") << QPoint(60, 500) << int(RdcGridA::ZoneNone);
 }
@@ -197,7 +197,7 @@ void tst_RdcGridAPaint::cellColours()
     w.grid->Refresh();
 
     const QPoint cell = mode == RdcGridA::PlainCell ? QPoint(1, 5)
-            : mode == RdcGridA::SelectedCell       ? QPoint(3, 3)
+            : mode == RdcGridA::SelectedCell        ? QPoint(3, 3)
                                                     : QPoint(2, 2);
     const QRect rect = w.grid->cellRectangle(cell.y(), cell.x());
     const QImage image = w.surfaceImage();

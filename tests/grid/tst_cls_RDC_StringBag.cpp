@@ -46,8 +46,8 @@ void tst_cls_RDC_StringBag::reads_data()
     QTest::newRow("row number 7") << 9 << 2 << true << true << 7 << 0 << "7";
     QTest::newRow("row number 12, no blanks") << 20 << 2 << true << true << 12 << 0 << "12";
     QTest::newRow("row 0 of the numbers") << 9 << 2 << true << true << 0 << 0 << "";
-    QTest::newRow("column 0 stored when numbering is off") << 5 << 2 << false << true << 3 << 0
-                                                             << "";
+    QTest::newRow("column 0 stored when numbering is off")
+            << 5 << 2 << false << true << 3 << 0 << "";
     QTest::newRow("row below 0") << 5 << 2 << true << true << -1 << 1 << "";
     QTest::newRow("row past Rows") << 5 << 2 << true << true << 6 << 1 << "";
     QTest::newRow("column past Cols") << 5 << 2 << true << true << 1 << 3 << "";
