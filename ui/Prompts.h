@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Message box styles, numbered as the message boxes of the old platform numbered them: the
+// buttons in the low three bits, the icon in the next bits. The window uses 48 (exclamation and
+// OK) for errors, 16 (critical stop and OK) for calculation failures and 3 (Yes, No, Cancel, no
+// icon, first button the default) for the unsaved-data question.
+namespace MessageStyle {
+constexpr int OkOnly = 0;
+constexpr int OkCancel = 1;
+constexpr int YesNoCancel = 3;
+constexpr int YesNo = 4;
+constexpr int Critical = 16;
+constexpr int Question = 32;
+constexpr int Exclamation = 48;
+constexpr int Information = 64;
+constexpr int ButtonMask = 7;
+constexpr int IconMask = 112;
+} // namespace MessageStyle
+
+// The button a message box returns, with the old platform's numbers.
+namespace MessageAnswer {
+constexpr int Ok = 1;
+constexpr int Cancel = 2;
+constexpr int Yes = 6;
+constexpr int No = 7;
+} // namespace MessageAnswer
+
+// What the Open and Save dialogs are asked for.
+struct FileDialogRequest
+{
+    enum Flag {
+        HideReadOnly = 0x1, // no "open as read-only" box
+        FileMustExist = 0x2, // only an existing file may be chosen (Open)
+        PathMustExist = 0x4, // the folder of the name must exist (Save)
+        OverwritePrompt = 0x8, // ask before an existing file is replaced (Save)
+    };
+    QString initialFolder; // folder shown first, ending with "/"
+    QString fileName; // name proposed in the name field; "" for none
+    QStringList filters; // "Description (*.ext)" entries, in order
+    int selectedFilter = 0; // index into filters of the entry chosen at first
+    QString defaultSuffix; // appended to a name typed without an extension
+    int flags = 0;
+};
+
+// Every message box and file dialog of the window goes through this interface, so that the
+// tests can script the answers and the window never blocks a headless run.
+class Prompts
+{
+public:
+    virtual ~Prompts() = default;
+    // Sounds the system beep, then shows a modal message box with `message`, the buttons and
+    // icon of `style` (MessageStyle) and `title`. Returns the button pressed (MessageAnswer).
+    virtual int ShowErrorMessage(const QString &message, int style, const QString &title) = 0;
+    // The Open dialog; "" when the user cancels.
+    virtual QString askOpenFileName(const FileDialogRequest &request) = 0;
+    // The Save dialog; "" when the user cancels.
+    virtual QString askSaveFileName(const FileDialogRequest &request) = 0;
+};
