@@ -20,8 +20,8 @@ QString desktopFolder(int folderId)
     case kLocalApplicationDataFolder:
         return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     case kDocumentsFolder: {
-        const QString documents =
-                QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        const QString documents
+                = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         if (!documents.isEmpty() && QFileInfo(documents).isDir())
             return documents;
         return QStandardPaths::writableLocation(QStandardPaths::HomeLocation);

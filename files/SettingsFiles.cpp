@@ -18,9 +18,8 @@ const char *const kHelpImagesFile = "HelpImages.ini";
 
 namespace {
 
-const std::array<const char *, kHelpImageSizeCount + 1> kHelpImageKeys = {
-    "", "SMALL", "MEDIUM", "LARGE", "LARGEST"
-};
+const std::array<const char *, kHelpImageSizeCount + 1> kHelpImageKeys
+        = { "", "SMALL", "MEDIUM", "LARGE", "LARGEST" };
 
 std::string upperCase(std::string text)
 {
@@ -114,8 +113,8 @@ bool ReadDefWindowSize(const std::string &path, WindowPlacement &placement)
     return ok;
 }
 
-bool WriteWindowState(const std::string &path, WindowShowState state, int top, int left,
-                      int height, int width)
+bool WriteWindowState(const std::string &path, WindowShowState state, int top, int left, int height,
+                      int width)
 {
     const std::string stateLine = "State=" + std::to_string(static_cast<int>(state));
     if (state != WindowShowState::Normal)
@@ -127,7 +126,7 @@ bool WriteWindowState(const std::string &path, WindowShowState state, int top, i
 
 HelpImageFiles ReadHelpImageFolders(const std::string &programFolder)
 {
-    HelpImageFiles files{};
+    HelpImageFiles files {};
     DataFile file;
     if (!file.OpenForRead(programFolder + kHelpImagesFile))
         return files;

@@ -48,8 +48,8 @@ bool ReadWindowState(const std::string &path, WindowPlacement &placement);
 bool ReadDefWindowSize(const std::string &path, WindowPlacement &placement);
 // Writes "State=" and, for the normal state only, "Top=", "Left=", "Height=" and "Width=" in
 // twips, in that order. Returns false when the file could not be written.
-bool WriteWindowState(const std::string &path, WindowShowState state, int top, int left,
-                      int height, int width);
+bool WriteWindowState(const std::string &path, WindowShowState state, int top, int left, int height,
+                      int width);
 
 // Help-image sizes 1 to 4: Small, Medium, Large, Largest.
 constexpr int kHelpImageSizeCount = 4;

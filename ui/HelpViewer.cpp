@@ -6,7 +6,9 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-HelpViewer::HelpViewer(QWidget *parent) : QDialog(parent), m_browser(new QTextBrowser(this))
+HelpViewer::HelpViewer(QWidget *parent)
+    : QDialog(parent)
+    , m_browser(new QTextBrowser(this))
 {
     setObjectName(QStringLiteral("HelpViewer"));
     setWindowTitle(QStringLiteral("Swale Help"));

@@ -28,7 +28,8 @@ QStringList captionList(const char *const *captions, int count)
 
 } // namespace
 
-InputPage::InputPage(QWidget *parent) : QWidget(parent)
+InputPage::InputPage(QWidget *parent)
+    : QWidget(parent)
 {
     setObjectName(QStringLiteral("picMovingWindow_0"));
     for (int i = 1; i <= kInputCount; ++i) {
@@ -61,8 +62,8 @@ InputPage::InputPage(QWidget *parent) : QWidget(parent)
     cmdToday = makeButton(QStringLiteral("cmdToday"), QStringLiteral("<- Today"));
     connect(cmdToday, &QPushButton::clicked, this, &InputPage::writeToday);
     for (int topic = 1; topic <= 2; ++topic) {
-        QPushButton *help = makeButton(PageStyle::indexedName("cmdHelp", topic),
-                                       QStringLiteral("<-  Help"));
+        QPushButton *help
+                = makeButton(PageStyle::indexedName("cmdHelp", topic), QStringLiteral("<-  Help"));
         connect(help, &QPushButton::clicked, this, [this, topic] { emit helpRequested(topic); });
         cmdHelp[static_cast<size_t>(topic)] = help;
     }

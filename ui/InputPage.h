@@ -66,9 +66,9 @@ private:
     void setTabOrderDownThePage();
     void writeToday();
 
-    std::array<tvrEditBox *, kInputCount + 1> txtInput{}; // [0] unused: boxes 1 to 23
-    std::array<QLabel *, 10> lblInput{}; // [0] unused: section headings 1 to 9
-    std::array<QPushButton *, 3> cmdHelp{}; // [0] unused: help buttons 1 and 2
+    std::array<tvrEditBox *, kInputCount + 1> txtInput {}; // [0] unused: boxes 1 to 23
+    std::array<QLabel *, 10> lblInput {}; // [0] unused: section headings 1 to 9
+    std::array<QPushButton *, 3> cmdHelp {}; // [0] unused: help buttons 1 and 2
     OptionGroup *grpSolutionMethod = nullptr;
     OptionGroup *grpChannelFlow = nullptr;
     RdcGridA *grdRatingCurve = nullptr;

@@ -54,7 +54,8 @@ void buildFileMenu(QMainWindow &window, MainMenus &menus)
     menus.mnuFile_SaveAs = addAction(file, "mnuFile_SaveAs", QStringLiteral("Save &As"));
     addSeparator(file, "mnuFile_Separator1");
     menus.mnuFile_Print = addAction(file, "mnuFile_Print", QStringLiteral("&Print"));
-    menus.mnuFile_ExportPdf = addAction(file, "mnuFile_ExportPdf", QStringLiteral("Export P&DF..."));
+    menus.mnuFile_ExportPdf
+            = addAction(file, "mnuFile_ExportPdf", QStringLiteral("Export P&DF..."));
     menus.mnuFile_PrintSetup = addAction(file, "mnuFile_PrintSetup", QStringLiteral("Page Set&up"));
     addSeparator(file, "mnuFile_Separator2");
     for (int i = 1; i <= 5; ++i) {
@@ -80,8 +81,8 @@ void buildHelpMenus(QMainWindow &window, MainMenus &menus)
     menus.mnuHelp_Image = help->addMenu(QStringLiteral("Help Image Si&ze"));
     menus.mnuHelp_Image->setObjectName(QStringLiteral("mnuHelp_Image"));
     addSizeEntries(menus.mnuHelp_Image, "mnuHelp_Image_Size",
-                   { QStringLiteral("&Small"), QStringLiteral("&Medium"),
-                     QStringLiteral("&Large"), QStringLiteral("L&argest") },
+                   { QStringLiteral("&Small"), QStringLiteral("&Medium"), QStringLiteral("&Large"),
+                     QStringLiteral("L&argest") },
                    menus.mnuHelp_Image_Size);
     menus.mnuHelp_About = addAction(help, "mnuHelp_About", QStringLiteral("&About"));
 
@@ -93,8 +94,8 @@ void buildHelpMenus(QMainWindow &window, MainMenus &menus)
                    { QStringLiteral("Small"), QStringLiteral("Medium"), QStringLiteral("Large"),
                      QStringLiteral("Largest") },
                    menus.mnuHelpImage_Image_Size);
-    menus.mnuHelpImage_Copy = addAction(menus.mnuHelpImage, "mnuHelpImage_Copy",
-                                        QStringLiteral("Copy"));
+    menus.mnuHelpImage_Copy
+            = addAction(menus.mnuHelpImage, "mnuHelpImage_Copy", QStringLiteral("Copy"));
 }
 
 void buildToolbar(QMainWindow &window, MainMenus &menus)

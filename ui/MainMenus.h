@@ -21,22 +21,22 @@ struct MainMenus
     QAction *mnuFile_ExportPdf = nullptr; // the report as a PDF file, offered with Print
     QAction *mnuFile_PrintSetup = nullptr;
     QAction *mnuFile_Separator3 = nullptr;
-    std::array<QAction *, 6> mnuFile_Recent{}; // [0] unused: entries 1 to 5
+    std::array<QAction *, 6> mnuFile_Recent {}; // [0] unused: entries 1 to 5
     QAction *cmdFile_Example = nullptr;
     QAction *mnuFile_Exit = nullptr;
 
     QMenu *mnuHelp = nullptr;
     QMenu *mnuHelp_Image = nullptr;
-    std::array<QAction *, 5> mnuHelp_Image_Size{}; // [0] unused: sizes 1 to 4
+    std::array<QAction *, 5> mnuHelp_Image_Size {}; // [0] unused: sizes 1 to 4
     QAction *mnuHelp_About = nullptr;
 
     QMenu *mnuHelpImage = nullptr; // pop-up of the help image, not in the menu bar
-    std::array<QAction *, 5> mnuHelpImage_Image_Size{}; // [0] unused: sizes 1 to 4
+    std::array<QAction *, 5> mnuHelpImage_Image_Size {}; // [0] unused: sizes 1 to 4
     QAction *mnuHelpImage_Copy = nullptr;
 
     QToolBar *Toolbar1 = nullptr;
     // The toolbar's buttons, tagged "New", "Open", "Save" and "Print" in this order; [0] unused.
-    std::array<QAction *, 5> toolbarButtons{};
+    std::array<QAction *, 5> toolbarButtons {};
 
     QAction *toolbarPrint() const { return toolbarButtons[4]; }
 };

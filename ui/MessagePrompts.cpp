@@ -94,7 +94,7 @@ int MessagePrompts::ShowErrorMessage(const QString &message, int style, const QS
             return choice.answer;
     }
     return (style & MessageStyle::ButtonMask) == MessageStyle::OkOnly ? MessageAnswer::Ok
-                                                                       : MessageAnswer::Cancel;
+                                                                      : MessageAnswer::Cancel;
 }
 
 QString MessagePrompts::askOpenFileName(const FileDialogRequest &request)

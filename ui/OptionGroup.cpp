@@ -7,7 +7,9 @@
 
 OptionGroup::OptionGroup(const QString &groupName, const QString &optionName,
                          const QStringList &captions, QWidget *parent)
-    : QFrame(parent), m_buttons(new QButtonGroup(this)), m_options(1, nullptr)
+    : QFrame(parent)
+    , m_buttons(new QButtonGroup(this))
+    , m_options(1, nullptr)
 {
     setObjectName(groupName);
     setFrameShape(QFrame::StyledPanel);

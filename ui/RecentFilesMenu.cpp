@@ -16,9 +16,9 @@ std::string recentFilesPath(const QString &settingsFolder)
 } // namespace
 
 RecentFilesMenu::RecentFilesMenu(const std::array<QAction *, 6> &entries, QAction *separator)
-    : m_entries(entries), m_separator(separator)
-{
-}
+    : m_entries(entries)
+    , m_separator(separator)
+{ }
 
 void RecentFilesMenu::load(const QString &settingsFolder)
 {

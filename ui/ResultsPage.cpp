@@ -6,8 +6,8 @@
 
 #include <QLabel>
 
-
-ResultsPage::ResultsPage(QWidget *parent) : QWidget(parent)
+ResultsPage::ResultsPage(QWidget *parent)
+    : QWidget(parent)
 {
     setObjectName(QStringLiteral("picMovingWindow_1"));
     for (int group = 1; group <= 5; ++group) {
@@ -57,7 +57,7 @@ void ResultsPage::clearBoxes()
 
 std::array<std::string, kOutputCount + 1> ResultsPage::texts() const
 {
-    std::array<std::string, kOutputCount + 1> result{};
+    std::array<std::string, kOutputCount + 1> result {};
     for (int i = 1; i <= kOutputCount; ++i)
         result[static_cast<size_t>(i)] = box(i)->text().toStdString();
     return result;

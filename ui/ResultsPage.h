@@ -35,6 +35,6 @@ public:
     std::array<std::string, kOutputCount + 1> texts() const;
 
 private:
-    std::array<tvrEditBox *, kOutputCount + 1> txtOutput{}; // [0] unused: boxes 1 to 18
-    std::array<QLabel *, 6> lblOutput{}; // [0] unused: group headings 1 to 5
+    std::array<tvrEditBox *, kOutputCount + 1> txtOutput {}; // [0] unused: boxes 1 to 18
+    std::array<QLabel *, 6> lblOutput {}; // [0] unused: group headings 1 to 5
 };

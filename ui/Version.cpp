@@ -6,7 +6,8 @@
 
 QString versionText(int revision)
 {
-    return QStringLiteral("Version 3.3.") + QStringLiteral("%1").arg(revision, 4, 10, QLatin1Char('0'));
+    return QStringLiteral("Version 3.3.")
+            + QStringLiteral("%1").arg(revision, 4, 10, QLatin1Char('0'));
 }
 
 int programRevision()

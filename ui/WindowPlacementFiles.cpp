@@ -50,8 +50,7 @@ bool restore(QMainWindow &window, const GlobalData &folders)
         if (isOnSomeScreen(QRect(place, size)))
             window.move(place);
     }
-    return placement.state
-            && *placement.state == static_cast<int>(WindowShowState::Maximised);
+    return placement.state && *placement.state == static_cast<int>(WindowShowState::Maximised);
 }
 
 void save(const QMainWindow &window, const GlobalData &folders)

@@ -5,9 +5,9 @@
 #include <QFileInfo>
 
 WindowPrintPrompts::WindowPrintPrompts(Prompts &prompts, QWidget *parent)
-    : SystemPrintDialogs(parent), m_prompts(prompts)
-{
-}
+    : SystemPrintDialogs(parent)
+    , m_prompts(prompts)
+{ }
 
 int WindowPrintPrompts::ShowErrorMessage(const QString &message, int style, const QString &title)
 {

@@ -7,7 +7,8 @@
 #include <QVBoxLayout>
 
 frmAbout::frmAbout(const QString &versionText, QWidget *parent)
-    : QDialog(parent), Command1(new QPushButton(QStringLiteral("OK"), this))
+    : QDialog(parent)
+    , Command1(new QPushButton(QStringLiteral("OK"), this))
 {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("About TAVRO Channel and Overland Flow Analysis"));

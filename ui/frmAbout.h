@@ -18,6 +18,6 @@ public:
     QLabel *label(int index) const { return lbl[static_cast<size_t>(index)]; }
 
 private:
-    std::array<QLabel *, 4> lbl{}; // name, version, description, credits
+    std::array<QLabel *, 4> lbl {}; // name, version, description, credits
     QPushButton *Command1;
 };

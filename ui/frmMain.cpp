@@ -40,12 +40,14 @@ constexpr QSize kDesignedSize(960, 760);
 
 frmMain::frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *printPrompts,
                  QWidget *parent)
-    : QMainWindow(parent), m_prompts(prompts), m_folders(folders)
+    : QMainWindow(parent)
+    , m_prompts(prompts)
+    , m_folders(folders)
 {
     setObjectName(QStringLiteral("frmMain"));
     // The normal-depth search starts with a tolerance of 1E-07 and at most 10000 iterations
     // (the defaults of CalcSettings); the folders were worked out before the window was made.
-    m_calcSettings = CalcSettings{};
+    m_calcSettings = CalcSettings {};
     m_versionText = ::versionText(programRevision());
     if (!printPrompts) {
         m_ownPrintPrompts = std::make_unique<WindowPrintPrompts>(prompts, this);
@@ -54,8 +56,8 @@ frmMain::frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *prin
     m_printRoutine = std::make_unique<PrintRoutine>(
             *printPrompts, QString::fromStdString(m_folders.programFolder));
     m_menus = buildMainMenus(*this);
-    m_recentFiles = std::make_unique<RecentFilesMenu>(m_menus.mnuFile_Recent,
-                                                      m_menus.mnuFile_Separator3);
+    m_recentFiles
+            = std::make_unique<RecentFilesMenu>(m_menus.mnuFile_Recent, m_menus.mnuFile_Separator3);
     buildPages();
     connectCommands();
     setCaption(QStringLiteral("<untitled>"));
@@ -144,11 +146,10 @@ void frmMain::connectCommands()
                 [this, i] { recentFileCommand(i); });
     }
     // Opening the File menu offers Print exactly when the results are those of the inputs.
-    connect(m.mnuFile, &QMenu::aboutToShow, this,
-            [this] {
-                m_menus.mnuFile_Print->setEnabled(m_resultsShown);
-                m_menus.mnuFile_ExportPdf->setEnabled(m_resultsShown);
-            });
+    connect(m.mnuFile, &QMenu::aboutToShow, this, [this] {
+        m_menus.mnuFile_Print->setEnabled(m_resultsShown);
+        m_menus.mnuFile_ExportPdf->setEnabled(m_resultsShown);
+    });
     connect(m.toolbarButtons[1], &QAction::triggered, m.mnuFile_New, &QAction::trigger);
     connect(m.toolbarButtons[2], &QAction::triggered, m.mnuFile_Open, &QAction::trigger);
     connect(m.toolbarButtons[3], &QAction::triggered, m.mnuFile_Save, &QAction::trigger);

@@ -124,7 +124,7 @@ private:
     MainMenus m_menus;
     std::unique_ptr<RecentFilesMenu> m_recentFiles;
     QTabWidget *SSTab1 = nullptr;
-    std::array<ScrollingPage *, 2> picStaionaryWindow{}; // page 0 Input Data, page 1 Results
+    std::array<ScrollingPage *, 2> picStaionaryWindow {}; // page 0 Input Data, page 1 Results
     InputPage *m_inputPage = nullptr;
     ResultsPage *m_resultsPage = nullptr;
     ctrlPictureViewer *ctrlPictureViewer1 = nullptr;

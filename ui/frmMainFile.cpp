@@ -163,14 +163,14 @@ bool frmMain::OpenDataFile(const QString &path, int mode)
         m_resultsPage->WriteResults(project.outputText);
     setResultsShown(project.resultsShown);
     if (mode == OpenNormal) {
-        m_currentFilePath = path;
-        m_currentDataFolder = folderOf(path);
         m_recentFiles->add(path);
+        adoptFileName(path);
     } else {
-        // An example opens untitled, so that a later Save asks for a new name.
+        // An example opens untitled, so that a later Save asks for a new name; the caption
+        // still names it.
         m_currentFilePath.clear();
+        setCaption(QFileInfo(path).fileName());
     }
-    setCaption(QFileInfo(path).fileName());
     m_dataChanged = false;
     if (m_inputPage->ratingCurveGrid()->isVisible())
         m_inputPage->ratingCurveGrid()->Refresh();
@@ -192,7 +192,7 @@ bool frmMain::SaveProjectAs()
     const ProjectFileResult result = saveProject(path.toStdString(), currentProject());
     if (!result.ok) {
         const char *text = result.failedStep == ProjectFileStep::Open ? "Error opening file:"
-                                                                       : "Error writing to file:";
+                                                                      : "Error writing to file:";
         m_prompts.ShowErrorMessage(fileErrorText(text, path), MessageStyle::Exclamation,
                                    QLatin1String(kErrorTitle));
         return false;
@@ -209,7 +209,7 @@ bool frmMain::WriteDataFile(const QString &path)
     const ProjectFileResult result = saveProject(path.toStdString(), currentProject());
     if (!result.ok) {
         const char *text = result.failedStep == ProjectFileStep::Open ? "Unable to open file:"
-                                                                       : "Error writing data file:";
+                                                                      : "Error writing data file:";
         m_prompts.ShowErrorMessage(fileErrorText(text, path), MessageStyle::Exclamation,
                                    QLatin1String(kErrorTitle));
         return false;

@@ -18,8 +18,8 @@ int main(int argc, char *argv[])
     GlobalData folders;
     FolderError error;
     if (!BuildGlobalData(QApplication::applicationDirPath().toStdString(), folders, error)) {
-        prompts.ShowErrorMessage(QString::fromStdString(error.description),
-                                 MessageStyle::Critical, QLatin1String(kErrorTitle));
+        prompts.ShowErrorMessage(QString::fromStdString(error.description), MessageStyle::Critical,
+                                 QLatin1String(kErrorTitle));
         return 1;
     }
 

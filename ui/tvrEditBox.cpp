@@ -5,8 +5,10 @@
 #include <QLineEdit>
 
 tvrEditBox::tvrEditBox(QWidget *parent)
-    : QWidget(parent), m_caption(new QLabel(this)), m_edit(new QLineEdit(this)),
-      m_unit(new QLabel(this))
+    : QWidget(parent)
+    , m_caption(new QLabel(this))
+    , m_edit(new QLineEdit(this))
+    , m_unit(new QLabel(this))
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -36,7 +38,6 @@ void tvrEditBox::setText(const QString &text)
         return;
     m_edit->setText(text);
     m_edit->setCursorPosition(0); // a long text shows its beginning
-
 }
 
 QString tvrEditBox::leftcaption() const

@@ -88,8 +88,8 @@ TEST(KeyValueFiles, DefWindowSizeReadsOnlyHeightAndWidth)
 TEST(WindowStateFile, NormalWindowWritesAllFiveLinesInOrder)
 {
     TempFolder folder;
-    ASSERT_TRUE(WriteWindowState(folder.file("WindowState.ini"), WindowShowState::Normal, 150,
-                                 300, 9000, 12000));
+    ASSERT_TRUE(WriteWindowState(folder.file("WindowState.ini"), WindowShowState::Normal, 150, 300,
+                                 9000, 12000));
     EXPECT_EQ(readBytes(folder.file("WindowState.ini")),
               "State=0\r\nTop=150\r\nLeft=300\r\nHeight=9000\r\nWidth=12000\r\n");
     WindowPlacement placement;
@@ -104,16 +104,16 @@ TEST(WindowStateFile, NormalWindowWritesAllFiveLinesInOrder)
 TEST(WindowStateFile, MaximisedWindowWritesOnlyItsState)
 {
     TempFolder folder;
-    ASSERT_TRUE(WriteWindowState(folder.file("WindowState.ini"), WindowShowState::Maximised, 1,
-                                 2, 3, 4));
+    ASSERT_TRUE(WriteWindowState(folder.file("WindowState.ini"), WindowShowState::Maximised, 1, 2,
+                                 3, 4));
     EXPECT_EQ(readBytes(folder.file("WindowState.ini")), "State=2\r\n");
 }
 
 TEST(WindowStateFile, UnwritableFolderFailsQuietly)
 {
     TempFolder folder;
-    EXPECT_FALSE(WriteWindowState(folder.file("missing/WindowState.ini"),
-                                  WindowShowState::Normal, 1, 2, 3, 4));
+    EXPECT_FALSE(WriteWindowState(folder.file("missing/WindowState.ini"), WindowShowState::Normal,
+                                  1, 2, 3, 4));
 }
 
 TEST(HelpImageSettings, KeepsOnlyNamedFilesThatExist)

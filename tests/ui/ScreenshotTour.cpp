@@ -6,6 +6,7 @@
 #include "InputPage.h"
 #include "OptionGroup.h"
 #include "RecordingPrompts.h"
+#include "ScrollingPage.h"
 #include "frmAbout.h"
 #include "frmMain.h"
 
@@ -13,7 +14,6 @@
 #include <QDir>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -61,16 +61,19 @@ int main(int argc, char *argv[])
     for (int method = 1; method <= projects.size(); ++method) {
         window.OpenDataFile(examples + projects.at(method - 1), OpenExample);
         save(&window, output, QStringLiteral("input-method-%1").arg(method));
-        auto *viewport = window.findChild<QScrollArea *>(QStringLiteral("picStaionaryWindow_0"));
-        viewport->verticalScrollBar()->setValue(viewport->verticalScrollBar()->maximum());
+        QScrollBar *bar = window.page(0)->vscScrollWindow();
+        bar->setValue(bar->maximum());
         save(&window, output, QStringLiteral("input-method-%1-end").arg(method));
-        viewport->verticalScrollBar()->setValue(0);
+        bar->setValue(0);
         window.calculateButton()->click();
         save(&window, output, QStringLiteral("results-method-%1").arg(method));
     }
     window.inputPage()->channelFlowGroup()->option(2)->click();
     save(&window, output, QStringLiteral("input-method-4-flow-rate"));
 
+    window.tabs()->setCurrentIndex(2);
+    save(&window, output, QStringLiteral("help-tab"));
+    window.tabs()->setCurrentIndex(0);
     window.showHelpTopic(1);
     auto *help = window.findChild<HelpViewer *>();
     if (help) {

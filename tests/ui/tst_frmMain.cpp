@@ -32,10 +32,10 @@
 
 namespace {
 
-const QString kUntitledCaption =
-        QStringLiteral("TAVRO Channel and Overland Flow Analysis - <untitled>");
-const QString kQuestion =
-        QStringLiteral("The data has changed.  Do you want to save the current data?");
+const QString kUntitledCaption
+        = QStringLiteral("TAVRO Channel and Overland Flow Analysis - <untitled>");
+const QString kQuestion
+        = QStringLiteral("The data has changed.  Do you want to save the current data?");
 const QString kQuestionTitle = QStringLiteral("TAVRO Channel and Overland Flow Analysis ");
 
 const QStringList kExamples = {
@@ -257,8 +257,7 @@ void tst_frmMain::toolbarButtonsInOrder()
         QCOMPARE(button->data().toString(), tags.at(i - 1));
         QVERIFY(!button->icon().isNull());
     }
-    QCOMPARE(m_window->menus().Toolbar1->actions().at(3),
-             m_window->menus().toolbarButtons[4]);
+    QCOMPARE(m_window->menus().Toolbar1->actions().at(3), m_window->menus().toolbarButtons[4]);
 }
 
 void tst_frmMain::edits_data()
@@ -523,8 +522,8 @@ void tst_frmMain::exampleOpensUntitled()
     m_window->menus().cmdFile_Example->trigger();
     QCOMPARE(m_prompts.records().last().request.initialFolder,
              QString::fromStdString(m_folders.programFolder) + QStringLiteral("Examples/"));
-    QCOMPARE(m_window->windowTitle(), QStringLiteral("TAVRO Channel and Overland Flow Analysis - ")
-                     + kExamples.at(1));
+    QCOMPARE(m_window->windowTitle(),
+             QStringLiteral("TAVRO Channel and Overland Flow Analysis - ") + kExamples.at(1));
     QVERIFY(m_window->currentFilePath().isEmpty());
     QVERIFY(!m_window->isDataChanged());
     QCOMPARE(m_window->inputPage()->GetSolutionMethod(), 2);
@@ -661,7 +660,7 @@ void tst_frmMain::faultOnResultsPageReturnsToTheBox()
     m_window->tabs()->setCurrentIndex(1);
     m_prompts.answerMessage();
     m_window->calculateButton()->click();
-    QCOMPARE(m_prompts.messages(), QStringList{ QStringLiteral("Missing data.") });
+    QCOMPARE(m_prompts.messages(), QStringList { QStringLiteral("Missing data.") });
     QCOMPARE(m_prompts.records().constFirst().style, int(MessageStyle::Exclamation));
     QCOMPARE(m_prompts.records().constFirst().title, QStringLiteral("Error"));
     QCOMPARE(m_window->tabs()->currentIndex(), 0);
@@ -681,7 +680,7 @@ void tst_frmMain::ratingCurveFaultSelectsTheCell()
     m_prompts.answerMessage();
     m_window->calculateButton()->click();
     QCOMPARE(m_prompts.messages(),
-             QStringList{ QStringLiteral("Missing data.  (Rating curve:  Row 3, Col 2)") });
+             QStringList { QStringLiteral("Missing data.  (Rating curve:  Row 3, Col 2)") });
     QCOMPARE(grid->row(), 3);
     QCOMPARE(grid->Col(), 2);
     QVERIFY(grid->isAncestorOf(QApplication::focusWidget()) || grid->hasFocus());
@@ -695,7 +694,8 @@ void tst_frmMain::calculationFailureShowsCriticalMessage()
     m_prompts.answerMessage();
     m_window->calculateButton()->click();
     QCOMPARE(m_prompts.messages(),
-             QStringList{ QStringLiteral("Arithmetic error in the calculation: division by zero") });
+             QStringList {
+                     QStringLiteral("Arithmetic error in the calculation: division by zero") });
     QCOMPARE(m_prompts.records().constFirst().style, int(MessageStyle::Critical));
     QVERIFY(!m_window->resultsShown());
     QCOMPARE(m_window->tabs()->currentIndex(), 0);
@@ -714,7 +714,7 @@ void tst_frmMain::printNeedsResultsAndAPrinter()
     m_prompts.answerMessage();
     m_window->menus().mnuFile_Print->trigger();
     QCOMPARE(m_prompts.messages(),
-             QStringList{ QStringLiteral("Unable to establish connection with printer.") });
+             QStringList { QStringLiteral("Unable to establish connection with printer.") });
     m_window->ClearProject();
     emit m_window->menus().mnuFile->aboutToShow();
     QVERIFY(!m_window->menus().mnuFile_Print->isEnabled());
