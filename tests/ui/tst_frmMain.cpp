@@ -1,5 +1,6 @@
 #include "GlobalData.h"
 #include "HelpImagePanel.h"
+#include "HelpViewer.h"
 #include "InputPage.h"
 #include "OptionGroup.h"
 #include "RdcGridA.h"
@@ -26,6 +27,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QToolBar>
 
 #include <memory>
@@ -114,6 +116,7 @@ private slots:
     void ratingCurveFaultSelectsTheCell();
     void calculationFailureShowsCriticalMessage();
     void printNeedsResultsAndAPrinter();
+    void helpButtonsOpenTheirTopics();
 
     void settingsRoundTrip();
 
@@ -718,6 +721,24 @@ void tst_frmMain::printNeedsResultsAndAPrinter()
     m_window->ClearProject();
     emit m_window->menus().mnuFile->aboutToShow();
     QVERIFY(!m_window->menus().mnuFile_Print->isEnabled());
+}
+
+void tst_frmMain::helpButtonsOpenTheirTopics()
+{
+    auto *help2 = m_window->findChild<QPushButton *>(QStringLiteral("cmdHelp_2"));
+    help2->click(); // no topic in the program folder: nothing happens
+    QVERIFY(!m_window->findChild<HelpViewer *>());
+
+    QFile topic(QString::fromStdString(m_folders.programFolder) + "help/2.html");
+    QVERIFY(topic.open(QIODevice::WriteOnly));
+    topic.write("<html><head><title>Roughness</title></head><body>n</body></html>");
+    topic.close();
+    help2->click();
+    auto *viewer = m_window->findChild<HelpViewer *>();
+    QVERIFY(viewer);
+    QVERIFY(viewer->isVisible());
+    QCOMPARE(viewer->browser()->source().fileName(), QStringLiteral("2.html"));
+    QCOMPARE(viewer->browser()->documentTitle(), QStringLiteral("Roughness"));
 }
 
 void tst_frmMain::settingsRoundTrip()
