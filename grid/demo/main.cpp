@@ -42,6 +42,22 @@ bool saveShot(DemoWindow &window, const QString &folder, const QString &name)
     return true;
 }
 
+// A grid with the default design: title bar, numbered bold headers, left-aligned row labels.
+bool saveTitledGridShot(const QString &folder)
+{
+    RdcGridA grid;
+    grid.setTitle(QStringLiteral("Inlet rating curve"));
+    grid.setCols(4);
+    grid.setBoldColumnHeaders(true);
+    grid.setText(2, 2, QStringLiteral("A text far too long for its cell"));
+    grid.setText(3, 1, QStringLiteral("12.5"));
+    grid.resize(grid.sizeHint());
+    grid.show();
+    QApplication::processEvents();
+    const QString path = QDir(folder).filePath(QStringLiteral("grid-9-titled.png"));
+    return grid.grab().save(path);
+}
+
 int takeShots(DemoWindow &window, const QString &folder)
 {
     if (!QDir().mkpath(folder)) {
@@ -81,7 +97,7 @@ int takeShots(DemoWindow &window, const QString &folder)
     ok = saveShot(window, folder, QStringLiteral("7-resizing")) && ok;
     sendMouse(pic, QEvent::MouseButtonRelease, border + QPoint(30, 40), Qt::NoButton);
     ok = saveShot(window, folder, QStringLiteral("8-resized")) && ok;
-    return ok ? 0 : 1;
+    return saveTitledGridShot(folder) && ok ? 0 : 1;
 }
 } // namespace
 
