@@ -1,46 +1,38 @@
 #include "PdfReport.h"
 
-#include "PageMargins.h"
-#include "PrintRoutine.h"
-
-#include <QDir>
-#include <QFileInfo>
-#include <QGuiApplication>
-
-#include <memory>
+#include <dlfcn.h>
+#include <limits.h>
+#include <unistd.h>
 
 namespace {
-
-// The GUI application the PDF writer's fonts need, made once for the run.
-void ensureGuiApplication()
+// The module lives beside the program.
+std::string moduleFile()
 {
-    if (QGuiApplication::instance())
-        return;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char name[] = "swale-calc";
-    static char *argv[] = { name, nullptr };
-    static std::unique_ptr<QGuiApplication> application
-            = std::make_unique<QGuiApplication>(argc, argv);
+    char buffer[PATH_MAX];
+    const ssize_t length = readlink("/proc/self/exe", buffer, sizeof buffer - 1);
+    if (length <= 0)
+        return kPdfModuleName;
+    std::string program(buffer, static_cast<size_t>(length));
+    return program.substr(0, program.rfind('/') + 1) + kPdfModuleName;
 }
-
 } // namespace
 
 bool writeProjectPdf(const std::string &pdfPath, const SwaleProject &project,
                      const std::string &projectPath, std::string &error)
 {
-    ensureGuiApplication();
-    const QString programFolder = QCoreApplication::applicationDirPath();
-    PageMargins margins;
-    ReadPageMargins(QDir(programFolder).filePath(QString::fromUtf8(kMarginsFile)).toStdString(),
-                    margins);
-    const QString projectFile = QFileInfo(QString::fromStdString(projectPath)).absoluteFilePath();
-    QString reason;
-    if (!writeReportPdf(QString::fromStdString(pdfPath), project, projectFile, ReportPageSetup(),
-                        margins, &reason)) {
-        error = reason.toStdString();
+    using Writer = bool (*)(const std::string &, const SwaleProject &, const std::string &,
+                            std::string &);
+    const std::string file = moduleFile();
+    void *module = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!module) {
+        error = "the PDF writer " + file + " could not be loaded: " + dlerror();
         return false;
     }
-    return true;
+    const auto writer = reinterpret_cast<Writer>(dlsym(module, kPdfWriterSymbol));
+    if (!writer) {
+        error = "the PDF writer " + file + " has no entry point " + kPdfWriterSymbol;
+        return false;
+    }
+    // The module stays loaded: Qt's application object inside it lives until the program ends.
+    return writer(pdfPath, project, projectPath, error);
 }

@@ -1,0 +1,50 @@
+// The PDF writer of swale-calc, built as a module of its own: it needs Qt's GUI and printing
+// libraries, which would slow every other run of the program if it linked them.
+
+#include "PdfReport.h"
+
+#include "PageMargins.h"
+#include "PrintRoutine.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include <memory>
+
+namespace {
+
+// The GUI application the PDF writer's fonts need, made once for the run.
+void ensureGuiApplication()
+{
+    if (QGuiApplication::instance())
+        return;
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int argc = 1;
+    static char name[] = "swale-calc";
+    static char *argv[] = { name, nullptr };
+    static std::unique_ptr<QGuiApplication> application
+            = std::make_unique<QGuiApplication>(argc, argv);
+}
+
+} // namespace
+
+extern "C" __attribute__((visibility("default"))) bool
+swaleWriteProjectPdf(const std::string &pdfPath, const SwaleProject &project,
+                     const std::string &projectPath, std::string &error)
+{
+    ensureGuiApplication();
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    PageMargins margins;
+    ReadPageMargins(QDir(programFolder).filePath(QString::fromUtf8(kMarginsFile)).toStdString(),
+                    margins);
+    const QString projectFile = QFileInfo(QString::fromStdString(projectPath)).absoluteFilePath();
+    QString reason;
+    if (!writeReportPdf(QString::fromStdString(pdfPath), project, projectFile, ReportPageSetup(),
+                        margins, &reason)) {
+        error = reason.toStdString();
+        return false;
+    }
+    return true;
+}
