@@ -25,6 +25,8 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QResizeEvent>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 
@@ -109,6 +111,45 @@ void frmMain::buildPages()
     SSTab1->addTab(picStaionaryWindow[1], QStringLiteral("Results"));
     SSTab1->addTab(ctrlPictureViewer1, QStringLiteral("Help"));
     setCentralWidget(SSTab1);
+    connect(SSTab1, &QTabWidget::currentChanged, this, &frmMain::onTabChanged);
+}
+
+QWidget *frmMain::tabPanel(int tab) const
+{
+    return SSTab1->widget(tab);
+}
+
+// The tab widget hides the previous panel and shows the new one; a panel that was never sized
+// to the tab stays hidden until the window has room for it.
+void frmMain::onTabChanged(int tab)
+{
+    if (tab >= 0 && !m_panelShown[static_cast<size_t>(tab)])
+        tabPanel(tab)->hide();
+}
+
+void frmMain::fitPanelsToTabArea(const QSize &area)
+{
+    const bool fits = area.width() >= 1 && area.height() >= 1;
+    m_panelShown.fill(fits);
+    for (int tab = 0; tab < SSTab1->count(); ++tab) {
+        QWidget *panel = tabPanel(tab);
+        if (!fits)
+            panel->hide();
+        else if (tab == SSTab1->currentIndex() && panel->isHidden())
+            panel->show();
+    }
+}
+
+// The layout has already given the tab control the client area below the toolbar; the panels
+// get what the tab bar leaves of it. Each page's own resize then arranges its scroll bars.
+void frmMain::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    if (isMinimized())
+        return;
+    const QSize tabArea = SSTab1->size();
+    fitPanelsToTabArea(
+            QSize(tabArea.width(), tabArea.height() - SSTab1->tabBar()->sizeHint().height()));
 }
 
 // Tabbing to a control below (or above) the viewport scrolls it into view.

@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 
+#include <array>
 #include <memory>
 
 class HelpImagePanel;
@@ -58,6 +59,8 @@ public:
     QPushButton *calculateButton() const { return cmdCalculate; }
     const MainMenus &menus() const { return m_menus; }
     QString versionText() const { return m_versionText; }
+    // Whether tab `tab`'s panel may be shown: set once the panels were sized to the tab.
+    bool isPanelShown(int tab) const { return m_panelShown[static_cast<size_t>(tab)]; }
 
     // --- Document state -----------------------------------------------------------------
     QString currentFilePath() const { return m_currentFilePath; }
@@ -91,8 +94,12 @@ public slots:
     void showAbout();
     void showHelpTopic(int topic);
 
+    // Sizes the tab panels to the tab's display area `area`; an empty area keeps them hidden.
+    void fitPanelsToTabArea(const QSize &area);
+
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void buildPages();
@@ -113,6 +120,8 @@ private:
     void showValidationFault(const ValidationFault &fault);
     void showResults(const CalculationOutcome &outcome);
     void showInputPage();
+    QWidget *tabPanel(int tab) const;
+    void onTabChanged(int tab);
 
     Prompts &m_prompts;
     const GlobalData &m_folders;
@@ -136,4 +145,5 @@ private:
     QString m_currentDataFolder; // folder of the last project opened or saved
     bool m_dataChanged = false;
     bool m_resultsShown = false;
+    std::array<bool, 3> m_panelShown {}; // per tab: Input Data, Results, Help
 };

@@ -42,6 +42,7 @@ private slots:
     void enterOnAnOptionGoesToTheFirstBox();
     void smallWindowScrollsToTheFocusedBox();
     void resultsOpenAtTheirTopWhileInputKeepsItsPlace();
+    void panelsWaitForRoomInTheTab();
     void helpImageMenusTickAndStoreTheSize();
 
 private:
@@ -173,6 +174,37 @@ void tst_SolutionModes::smallWindowScrollsToTheFocusedBox()
     QCOMPARE(QApplication::focusWidget(), m_window->txtInput(1)->editor());
     QCOMPARE(m_window->txtInput(1)->mapTo(page, QPoint(0, 0)).y(), 0);
     QCOMPARE(page->vscScrollWindow()->value(), m_window->txtInput(1)->y());
+}
+
+// Until the panels were sized to a tab with room in it, switching tabs shows no panel; the
+// first resize with room shows the current tab's panel.
+void tst_SolutionModes::panelsWaitForRoomInTheTab()
+{
+    QTabWidget *tabs = m_window->tabs();
+    showActive();
+    for (int tab = 0; tab < 3; ++tab)
+        QVERIFY(m_window->isPanelShown(tab));
+    QVERIFY(tabs->widget(0)->isVisible());
+
+    m_window->fitPanelsToTabArea(QSize(300, 0));
+    QVERIFY(!m_window->isPanelShown(1));
+    QVERIFY(!tabs->widget(0)->isVisible());
+    tabs->setCurrentIndex(1);
+    QVERIFY(!tabs->widget(1)->isVisible());
+
+    m_window->fitPanelsToTabArea(QSize(300, 200));
+    QVERIFY(tabs->widget(1)->isVisible());
+    QVERIFY(!tabs->widget(0)->isVisible());
+    tabs->setCurrentIndex(2);
+    QVERIFY(tabs->widget(2)->isVisible());
+    QVERIFY(!tabs->widget(1)->isVisible());
+
+    // A real resize of the window gives the panels the room of the tab again.
+    m_window->fitPanelsToTabArea(QSize(0, 0));
+    QVERIFY(!tabs->widget(2)->isVisible());
+    m_window->resize(500, 400);
+    QTRY_VERIFY(m_window->isPanelShown(0));
+    QVERIFY(tabs->widget(2)->isVisible());
 }
 
 void tst_SolutionModes::resultsOpenAtTheirTopWhileInputKeepsItsPlace()
