@@ -229,7 +229,8 @@ void tst_SolutionModes::helpImageMenusTickAndStoreTheSize()
     auto ticks = [](const std::array<QAction *, 5> &entries) {
         QString marks;
         for (int i = 1; i <= 4; ++i)
-            marks += entries[static_cast<size_t>(i)]->isChecked() ? QLatin1Char('x') : QLatin1Char('.');
+            marks += entries[static_cast<size_t>(i)]->isChecked() ? QLatin1Char('x')
+                                                                  : QLatin1Char('.');
         return marks;
     };
     // Sizes 3 and 4 have no image in this program folder.
