@@ -18,9 +18,14 @@ constexpr std::array<int, 21> kOldInputOrder = {
 };
 
 // A stored option index outside the group's buttons leaves the group unchosen.
-int optionIndex(int stored, int buttonCount)
+// Reads a stored option index; one outside 1..buttonCount leaves the group unchosen (0).
+bool readOption(DataFile &file, int buttonCount, int &chosen)
 {
-    return stored >= 1 && stored <= buttonCount ? stored : 0;
+    int stored = 0;
+    if (!file.ReadInteger(stored))
+        return false;
+    chosen = stored >= 1 && stored <= buttonCount ? stored : 0;
+    return true;
 }
 
 // `count` characters from 1-based character `position` of UTF-8 `text`, like a Mid of the line.
@@ -162,10 +167,8 @@ bool ReadOldInputBlock(DataFile &file, SwaleProject &project)
         if (!readInputText(file, project, box))
             return false;
     }
-    int solutionMethod = 0;
-    if (!file.ReadInteger(solutionMethod))
+    if (!readOption(file, kSolutionMethodCount, project.solutionMethod))
         return false;
-    project.solutionMethod = optionIndex(solutionMethod, kSolutionMethodCount);
     // These versions knew only the runoff hydrograph; the specified flow came later.
     project.inputText[15].clear();
     project.inputText[16].clear();
@@ -190,14 +193,9 @@ bool ReadProjectDataV3(DataFile &file, SwaleProject &project)
         if (!readInputText(file, project, box))
             return false;
     }
-    int solutionMethod = 0;
-    if (!file.ReadInteger(solutionMethod))
+    if (!readOption(file, kSolutionMethodCount, project.solutionMethod)
+        || !readOption(file, kChannelFlowMethodCount, project.channelFlowMethod))
         return false;
-    project.solutionMethod = optionIndex(solutionMethod, kSolutionMethodCount);
-    int channelFlowMethod = 0;
-    if (!file.ReadInteger(channelFlowMethod))
-        return false;
-    project.channelFlowMethod = optionIndex(channelFlowMethod, kChannelFlowMethodCount);
     return readRatingCurve(file, project) && readResults(file, project);
 }
 
