@@ -116,6 +116,7 @@ private slots:
     void ratingCurveFaultSelectsTheCell();
     void calculationFailureShowsCriticalMessage();
     void printNeedsResultsAndAPrinter();
+    void exportPdfWritesTheReportWhereTheUserSays();
     void helpButtonsOpenTheirTopics();
 
     void settingsRoundTrip();
@@ -703,6 +704,29 @@ void tst_frmMain::calculationFailureShowsCriticalMessage()
     QVERIFY(!m_window->resultsShown());
     QCOMPARE(m_window->tabs()->currentIndex(), 0);
     m_window->ClearProject();
+}
+
+// Export PDF asks for a file name beside the data, then writes the report of the window's texts.
+void tst_frmMain::exportPdfWritesTheReportWhereTheUserSays()
+{
+    openExample(2);
+    m_window->calculateButton()->click();
+    const QString pdf = m_folder->filePath(QStringLiteral("documents/report.pdf"));
+    m_prompts.answerSave(pdf);
+    m_window->menus().mnuFile_ExportPdf->trigger();
+    QCOMPARE(m_prompts.records().size(), 1);
+    const FileDialogRequest &request = m_prompts.records().at(0).request;
+    QCOMPARE(request.filters, QStringList { QStringLiteral("PDF Files (*.pdf)") });
+    QVERIFY(request.fileName.endsWith(QStringLiteral(".pdf")));
+    QFile written(pdf);
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QVERIFY(written.read(5) == "%PDF-");
+
+    // Cancelling the dialog writes nothing.
+    QVERIFY(QFile::remove(pdf));
+    m_prompts.answerSave(QString());
+    m_window->menus().mnuFile_ExportPdf->trigger();
+    QVERIFY(!QFile::exists(pdf));
 }
 
 void tst_frmMain::printNeedsResultsAndAPrinter()
