@@ -81,6 +81,21 @@ std::string decodeFileBytes(std::string bytes)
         return bytes;
     return windows1252ToUtf8(bytes);
 }
+
+// The bytes of `text` that decodeFileBytes turns back into `text`. Windows-1252 when every
+// character fits, so older versions of the program can read the file; but a text such as "Ã©"
+// gives the bytes C3 A9, which read as UTF-8 "é", and a text that starts with the character
+// U+FEFF would lose it as a byte-order mark. Those are written as UTF-8, behind a byte-order
+// mark of their own when the text starts with one.
+std::string encodeFileText(const std::string &text)
+{
+    std::string bytes;
+    if (utf8ToWindows1252(text, bytes) && decodeFileBytes(bytes) == text)
+        return bytes;
+    if (text.compare(0, kUtf8ByteOrderMark.size(), kUtf8ByteOrderMark) == 0)
+        return kUtf8ByteOrderMark + text;
+    return text;
+}
 } // namespace
 
 DataFile::DataFile() = default;
@@ -150,7 +165,8 @@ bool DataFile::WriteLine(const std::string &text)
     if (m_mode != Mode::Writing)
         return fail("the file is not open for writing");
     ++m_lineNumber;
-    if (text.find_first_of("\r\n") != std::string::npos)
+    // A lone CR reads back as part of its line; only LF ends a line.
+    if (text.find('\n') != std::string::npos)
         return failAtLine("a value holds a line break");
     if (!isValidUtf8(text))
         return failAtLine("a value is not valid text");
@@ -206,9 +222,7 @@ bool DataFile::Close()
         m_content.clear();
         return true;
     }
-    std::string bytes;
-    if (!utf8ToWindows1252(m_content, bytes))
-        bytes = m_content; // some character is not in Windows-1252: keep every one as UTF-8
+    const std::string bytes = encodeFileText(m_content);
     m_content.clear();
     const auto written = m_saveFile->write(bytes.data(), static_cast<qint64>(bytes.size()));
     bool ok = written == static_cast<qint64>(bytes.size()) && m_saveFile->flush()

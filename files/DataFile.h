@@ -14,7 +14,8 @@ class QSaveFile;
 // lines longer than kMaxLineLength are refused, so a damaged file costs bounded memory.
 //
 // Writing: lines are collected and written at Close, as Windows-1252 when every character fits
-// (older versions of the program read that) and as UTF-8 otherwise, each line ending in CR LF.
+// (older versions of the program read that) and as UTF-8 otherwise, each line ending in CR LF;
+// also as UTF-8 when the Windows-1252 bytes would read back as other text.
 // The lines go to a temporary file beside the target, which replaces the target only after
 // every byte was written and flushed: a failed save leaves the old file as it was.
 //
@@ -36,8 +37,8 @@ public:
     // Reads and decodes the whole file; fails when it is missing, unreadable or not text.
     bool OpenForRead(const std::string &path);
 
-    // Adds one line (without its terminator). A text holding CR or LF is refused: it would
-    // break the file's one-value-per-line layout.
+    // Adds one line (without its terminator). A text holding LF is refused: it would break the
+    // file's one-value-per-line layout. A lone CR reads back as part of the line and is kept.
     bool WriteLine(const std::string &text);
     // The next line without its terminator; fails at the end of the file.
     bool ReadLine(std::string &text);

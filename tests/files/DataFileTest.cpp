@@ -61,7 +61,6 @@ TEST(DataFileWriting, RefusesLineBreaksInsideAValue)
     DataFile file;
     ASSERT_TRUE(file.OpenForWrite(folder.file("x.txt")));
     EXPECT_FALSE(file.WriteLine("two\nlines"));
-    EXPECT_FALSE(file.WriteLine("carriage\rreturn"));
     EXPECT_NE(file.errorString().find("line break"), std::string::npos);
     EXPECT_FALSE(file.WriteLine("\xC3")); // a cut UTF-8 sequence is no text
 }
@@ -180,6 +179,41 @@ TEST(DataFileEncoding, WritesUtf8WhenACharacterDoesNotFit)
     ASSERT_TRUE(writeFile(path, lines));
     EXPECT_EQ(readBytes(path), "caf\xC3\xA9\r\n\xCE\x94h = 2\r\n");
     EXPECT_EQ(readAllLines(path), lines);
+}
+
+struct RoundTripCase
+{
+    const char *name;
+    Lines lines;
+    std::string fileBytes; // what the file must hold
+};
+
+// Lines that once came back changed, or could not be written at all, after being read from a
+// file: whatever a file gave must save and read back as it was.
+const RoundTripCase kRoundTrips[] = {
+    { "Windows-1252 text that would read as UTF-8 is written as UTF-8",
+      { "\xC3\x83\xC2\xA9" },
+      "\xC3\x83\xC2\xA9\r\n" },
+    { "a byte elsewhere that cannot be UTF-8 keeps the file Windows-1252",
+      { "caf\xC3\xA9", "\xC3\x83\xC2\xA9" },
+      "caf\xE9\r\n\xC3\xA9\r\n" },
+    { "a leading U+FEFF keeps a byte-order mark in front of it",
+      { "\xEF\xBB\xBFpath" },
+      "\xEF\xBB\xBF\xEF\xBB\xBFpath\r\n" },
+    { "a lone CR inside a value", { "carriage\rreturn" }, "carriage\rreturn\r\n" },
+    { "a CR at the end of a value", { "ends\r", "next" }, "ends\r\r\nnext\r\n" },
+};
+
+TEST(DataFileEncoding, WrittenLinesReadBackUnchanged)
+{
+    TempFolder folder;
+    const std::string path = folder.file("round.txt");
+    for (const RoundTripCase &row : kRoundTrips) {
+        SCOPED_TRACE(row.name);
+        ASSERT_TRUE(writeFile(path, row.lines));
+        EXPECT_EQ(readBytes(path), row.fileBytes);
+        EXPECT_EQ(readAllLines(path), row.lines);
+    }
 }
 
 TEST(TextEncoding, RecognisesMalformedUtf8)

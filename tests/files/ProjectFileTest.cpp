@@ -473,4 +473,32 @@ TEST_F(ProjectFileTest, TextsOutsideWindows1252SurviveTheRoundTrip)
     EXPECT_EQ(loaded.inputText[2], project.inputText[2]);
     EXPECT_EQ(loaded.inputText[17], project.inputText[17]);
 }
+
+struct SavedTextCase
+{
+    const char *name;
+    const char *text; // as a file gave it, so it must save and load back unchanged
+};
+
+// Texts that a file can give but that once failed to save or came back changed.
+const SavedTextCase kSavedTexts[] = {
+    { "UTF-8 whose characters all fit Windows-1252", "\xC3\x83\xC2\xA9" }, // "Ã©"
+    { "a lone CR inside the text", "Job\rname" },
+    { "a CR at the end of the text", "Job\r" },
+};
+
+TEST_F(ProjectFileTest, TextsAFileCanHoldSaveAndLoadBackUnchanged)
+{
+    for (const SavedTextCase &row : kSavedTexts) {
+        SCOPED_TRACE(row.name);
+        SwaleProject project = sampleProject();
+        project.inputText[1] = row.text;
+        project.outputText[18] = row.text;
+        save(project);
+        SwaleProject loaded;
+        const ProjectFileResult result = loadProject(m_path, loaded);
+        ASSERT_TRUE(result.ok) << result.error;
+        expectSameDocument(loaded, project);
+    }
+}
 } // namespace
