@@ -23,3 +23,11 @@ deps:
 
 clean:
 	rm -rf $(BUILD_DIR)
+
+# libFuzzer targets (clang with sanitizers) in their own build folder, each run FUZZ_TIME seconds.
+FUZZ_TIME ?= 60
+FUZZ_BUILD_DIR ?= build-fuzz
+
+.PHONY: fuzz
+fuzz:
+	FUZZ_TIME=$(FUZZ_TIME) JOBS=$(JOBS) scripts/run-fuzzers.sh $(FUZZ_BUILD_DIR)

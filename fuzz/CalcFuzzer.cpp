@@ -1,19 +1,51 @@
-// Feeds arbitrary projects to Calculate: the first two bytes choose the methods, the remaining
-// lines fill the 23 input boxes and then the rating-curve rows ("depth,discharge"). Whatever the
-// input, the command must finish, and every text it produces must be a displayable number.
+// Feeds arbitrary projects to Calculate: the first two bytes choose the two option groups (none
+// chosen, each button, and an index beyond the buttons), the following lines fill the 23 input
+// boxes and then the rating-curve rows ("depth,discharge"). Whatever the input, the command must
+// finish; every result box of the method is filled with a plain number and the others are
+// empty; no result holds "nan" or "inf" in any case, nor does a message as a word of its own;
+// a refusal says why and where; and a second run on the same project gives the same outcome.
 
 #include "Calculate.h"
+#include "FuzzScratch.h"
+#include "NumberText.h"
 #include "OutputTable.h"
 
+#include <cctype>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 namespace {
-bool displayable(const std::string &text)
+constexpr int kMaxRatingRows = 60;
+
+std::string lowerCase(std::string text)
 {
-    return text.find("nan") == std::string::npos && text.find("NAN") == std::string::npos
-            && text.find("inf") == std::string::npos && text.find("INF") == std::string::npos;
+    for (char &c : text)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return text;
+}
+
+// Output texts are numbers: neither "nan" nor "inf" may appear anywhere in them.
+void expectNumberText(const std::string &text, const char *what)
+{
+    const std::string lower = lowerCase(text);
+    if (lower.find("nan") != std::string::npos || lower.find("inf") != std::string::npos)
+        invariantBroken(std::string(what) + " \"" + text + "\" is not displayable");
+}
+
+// Messages are words ("infiltration" is one): "nan", "inf" and "infinity" must not stand as a
+// word of their own, as printf would write them into a message.
+void expectMessageText(const std::string &text, const char *what)
+{
+    const std::string lower = lowerCase(text);
+    const auto isLetter = [&lower](size_t i) {
+        return i < lower.size() && std::isalpha(static_cast<unsigned char>(lower[i]));
+    };
+    for (const std::string word : { "nan", "inf", "infinity" }) {
+        for (size_t at = lower.find(word); at != std::string::npos; at = lower.find(word, at + 1)) {
+            if ((at == 0 || !isLetter(at - 1)) && !isLetter(at + word.size()))
+                invariantBroken(std::string(what) + " \"" + text + "\" is not displayable");
+        }
+    }
 }
 
 SwaleProject projectFrom(const uint8_t *data, size_t size)
@@ -21,28 +53,65 @@ SwaleProject projectFrom(const uint8_t *data, size_t size)
     SwaleProject project;
     if (size < 2)
         return project;
-    project.solutionMethod = data[0] % 6;
-    project.channelFlowMethod = data[1] % 4;
+    project.solutionMethod = data[0] % (kSolutionMethodCount + 2);
+    project.channelFlowMethod = data[1] % (kChannelFlowMethodCount + 2);
     const std::string text(reinterpret_cast<const char *>(data + 2), size - 2);
     size_t start = 0;
     int line = 0;
-    while (start <= text.size() && line < 23 + 60) {
+    while (start <= text.size() && line < kInputCount + kMaxRatingRows) {
         size_t end = text.find('\n', start);
         if (end == std::string::npos)
             end = text.size();
         const std::string value = text.substr(start, end - start);
         ++line;
-        if (line <= 23) {
+        if (line <= kInputCount) {
             project.inputText[static_cast<size_t>(line)] = value;
         } else {
             const size_t comma = value.find(',');
-            const int row = line - 23;
+            const int row = line - kInputCount;
             project.setRatingCurveCell(row, 1, value.substr(0, comma));
-            project.setRatingCurveCell(row, 2, comma == std::string::npos ? "" : value.substr(comma + 1));
+            project.setRatingCurveCell(row, 2,
+                                       comma == std::string::npos ? "" : value.substr(comma + 1));
         }
         start = end + 1;
     }
     return project;
+}
+
+void checkResults(const SwaleProject &project, const CalculationOutcome &outcome)
+{
+    for (int i = 1; i <= kOutputCount; ++i) {
+        const std::string &text = outcome.results[static_cast<size_t>(i)];
+        if (!isOutputFilled(i, project.solutionMethod)) {
+            if (!text.empty())
+                invariantBroken("output " + std::to_string(i) + " is filled under this method");
+            continue;
+        }
+        expectNumberText(text, "output");
+        if (!isRecognisedNumber(text))
+            invariantBroken("output " + std::to_string(i) + " \"" + text + "\" is no number");
+    }
+    expectNumberText(outcome.clipboardText, "clipboard text");
+}
+
+void checkFault(const ValidationFault &fault)
+{
+    if (fault.message.empty())
+        invariantBroken("a validation fault without a message");
+    expectMessageText(fault.message, "validation message");
+    if (fault.place == FaultPlace::InputBox && (fault.input < 1 || fault.input > kInputCount))
+        invariantBroken("a validation fault in input box " + std::to_string(fault.input));
+    if (fault.place == FaultPlace::GridCell && (fault.row < 1 || fault.col < 1 || fault.col > 2))
+        invariantBroken("a validation fault in grid cell " + std::to_string(fault.row) + ","
+                        + std::to_string(fault.col));
+}
+
+bool sameOutcome(const CalculationOutcome &a, const CalculationOutcome &b)
+{
+    return a.status == b.status && a.results == b.results && a.clipboardText == b.clipboardText
+            && a.fault.message == b.fault.message && a.fault.place == b.fault.place
+            && a.fault.input == b.fault.input && a.fault.row == b.fault.row
+            && a.fault.col == b.fault.col && a.failureMessages == b.failureMessages;
 }
 } // namespace
 
@@ -52,24 +121,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const CalculationOutcome outcome = Calculate(project);
     switch (outcome.status) {
     case CalculationOutcome::Status::Ok:
-        for (int i = 1; i <= kOutputCount; ++i) {
-            const std::string &text = outcome.results[static_cast<size_t>(i)];
-            if (!displayable(text) || text.empty() == isOutputFilled(i, project.solutionMethod))
-                std::abort();
-        }
+        checkResults(project, outcome);
         break;
     case CalculationOutcome::Status::Invalid:
-        if (outcome.fault.message.empty())
-            std::abort();
+        checkFault(outcome.fault);
         break;
     case CalculationOutcome::Status::Failed:
-        if (outcome.failureMessages.empty())
-            std::abort();
-        for (const std::string &message : outcome.failureMessages) {
-            if (!displayable(message))
-                std::abort();
-        }
+        // Beyond the rating curve the depth message is followed by an empty one.
+        if (outcome.failureMessages.empty() || outcome.failureMessages.front().empty())
+            invariantBroken("a failed calculation without its message");
+        for (const std::string &message : outcome.failureMessages)
+            expectMessageText(message, "failure message");
         break;
     }
+    if (!sameOutcome(outcome, Calculate(project)))
+        invariantBroken("a second run gives another outcome");
     return 0;
 }
