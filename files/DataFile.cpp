@@ -96,6 +96,21 @@ std::string encodeFileText(const std::string &text)
         return kUtf8ByteOrderMark + text;
     return text;
 }
+
+// Writes every byte of `bytes`. A write that stores only part of them reports no error, so the
+// rest is written again: that write then fails with the system's reason ("File too large").
+bool writeAll(QSaveFile &file, const std::string &bytes)
+{
+    const qint64 size = static_cast<qint64>(bytes.size());
+    qint64 done = 0;
+    while (done < size) {
+        const qint64 written = file.write(bytes.data() + done, size - done);
+        if (written <= 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
 } // namespace
 
 DataFile::DataFile() = default;
@@ -224,13 +239,12 @@ bool DataFile::Close()
     }
     const std::string bytes = encodeFileText(m_content);
     m_content.clear();
-    const auto written = m_saveFile->write(bytes.data(), static_cast<qint64>(bytes.size()));
-    bool ok = written == static_cast<qint64>(bytes.size()) && m_saveFile->flush()
+    bool ok = writeAll(*m_saveFile, bytes) && m_saveFile->flush()
             && m_saveFile->error() == QFileDevice::NoError;
     if (ok)
         ok = m_saveFile->commit();
-    else
-        m_saveFile->cancelWriting();
+    // A failed save is dropped uncommitted rather than through cancelWriting, which would
+    // replace the system's reason ("No space left on device") with its own words.
     if (!ok)
         fail(m_saveFile->errorString().toStdString());
     m_saveFile.reset(); // an uncommitted QSaveFile removes its temporary file
