@@ -2,6 +2,7 @@
 
 #include "DataFile.h"
 #include "NumberText.h"
+#include "SettingsFiles.h"
 
 #include <array>
 
@@ -18,7 +19,7 @@ bool ReadPageMargins(const std::string &path, PageMargins &margins)
     margins = PageMargins();
 
     DataFile file;
-    if (!file.OpenForRead(path))
+    if (!OpenSettingsFile(file, path))
         return false;
     std::array<int, 5> lines {};
     for (int &line : lines) {

@@ -1,6 +1,7 @@
 #include "RecentFiles.h"
 
 #include "DataFile.h"
+#include "SettingsFiles.h"
 
 #include <algorithm>
 
@@ -8,7 +9,7 @@ bool RecentFileList::load(const std::string &path)
 {
     m_paths.clear();
     DataFile file;
-    if (!file.OpenForRead(path))
+    if (!OpenSettingsFile(file, path))
         return false;
     std::string line;
     while (count() < kMaxEntries && file.ReadLine(line)) {

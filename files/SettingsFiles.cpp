@@ -4,6 +4,9 @@
 #include "GlobalData.h"
 #include "NumberText.h"
 
+#include <QFileInfo>
+#include <QString>
+
 #include <cctype>
 #include <cfenv>
 #include <climits>
@@ -73,10 +76,19 @@ bool writeLines(const std::string &path, const std::initializer_list<std::string
 
 } // namespace
 
+bool OpenSettingsFile(DataFile &file, const std::string &path)
+{
+    // Checked before opening: opening a named pipe waits for a writer.
+    const QFileInfo info(QString::fromStdString(path));
+    if (!info.isFile() || info.size() > kMaxSettingsFileSize)
+        return false;
+    return file.OpenForRead(path);
+}
+
 bool ReadKeyValueFile(const std::string &path, KeyValues &values)
 {
     DataFile file;
-    if (!file.OpenForRead(path))
+    if (!OpenSettingsFile(file, path))
         return false;
     std::string line;
     while (file.ReadLine(line)) {
@@ -128,7 +140,7 @@ HelpImageFiles ReadHelpImageFolders(const std::string &programFolder)
 {
     HelpImageFiles files {};
     DataFile file;
-    if (!file.OpenForRead(programFolder + kHelpImagesFile))
+    if (!OpenSettingsFile(file, programFolder + kHelpImagesFile))
         return files;
     std::string line;
     while (file.ReadLine(line)) {
@@ -153,7 +165,7 @@ int ReadDefHelpImage(const std::string &settingsFolder)
 {
     DataFile file;
     int size = 0;
-    if (!file.OpenForRead(settingsFolder + kDefHelpImageFile) || !file.ReadInteger(size))
+    if (!OpenSettingsFile(file, settingsFolder + kDefHelpImageFile) || !file.ReadInteger(size))
         return 0;
     file.Close();
     return size >= 1 && size <= kHelpImageSizeCount ? size : 0;

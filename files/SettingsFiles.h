@@ -16,6 +16,18 @@ extern const char *const kDefHelpImageFile; // "DefHelpImg.ini": chosen help-ima
 extern const char *const kDefWindowSizeFile; // "DefWindowSize.ini": default window size
 extern const char *const kHelpImagesFile; // "HelpImages.ini": help image of each size
 
+class DataFile;
+
+// The program writes its settings files a few short lines long. A larger file, or anything in
+// its place that is not a plain file (a folder, a named pipe, a device), is not read at all: a
+// damaged or hostile settings file costs neither time nor memory, and a pipe that nobody writes
+// to cannot stop the program at start-up.
+constexpr long long kMaxSettingsFileSize = 64 * 1024;
+
+// Opens `path` for reading as a settings file; false, leaving the caller's defaults, when it is
+// missing, unreadable, not a plain file or larger than kMaxSettingsFileSize.
+bool OpenSettingsFile(DataFile &file, const std::string &path);
+
 // Sizes in these files are in twips, 15 to the pixel.
 constexpr int kTwipsPerPixel = 15;
 

@@ -30,6 +30,11 @@ const SaveFaultCase kSaveFaultCases[] = {
     { SaveFault::FailsPartWay, ProjectFileStep::Write },
 };
 
+void PrintTo(const SaveFaultCase &row, std::ostream *out)
+{
+    *out << saveFaultName(row.fault);
+}
+
 // A project as a user would have saved it: a roadside swale of the required-length method.
 SwaleProject savedProject()
 {
