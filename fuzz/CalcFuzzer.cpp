@@ -3,7 +3,8 @@
 // boxes and then the rating-curve rows ("depth,discharge"). Whatever the input, the command must
 // finish; every result box of the method is filled with a plain number and the others are
 // empty; no result holds "nan" or "inf" in any case, nor does a message as a word of its own;
-// a refusal says why and where; and a second run on the same project gives the same outcome.
+// a refusal says why and where; and a second run on the same project, or on the same texts
+// with blanks around them, gives the same outcome.
 
 #include "Calculate.h"
 #include "FuzzScratch.h"
@@ -106,6 +107,17 @@ void checkFault(const ValidationFault &fault)
                         + std::to_string(fault.col));
 }
 
+SwaleProject withBlanksAround(SwaleProject project)
+{
+    for (std::string &text : project.inputText)
+        text = " " + text + "  ";
+    for (auto &row : project.ratingCurve) {
+        for (std::string &cell : row)
+            cell = "  " + cell + " ";
+    }
+    return project;
+}
+
 bool sameOutcome(const CalculationOutcome &a, const CalculationOutcome &b)
 {
     return a.status == b.status && a.results == b.results && a.clipboardText == b.clipboardText
@@ -136,5 +148,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     if (!sameOutcome(outcome, Calculate(project)))
         invariantBroken("a second run gives another outcome");
+    // Boxes and cells are read trimmed of blanks: blanks typed around every text change nothing.
+    if (!sameOutcome(outcome, Calculate(withBlanksAround(project))))
+        invariantBroken("blanks around the texts change the outcome");
     return 0;
 }
