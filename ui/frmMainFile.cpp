@@ -147,11 +147,12 @@ void frmMain::recentFileCommand(int index)
 }
 
 // The file is read into a project of its own first, so that a file that cannot be read leaves
-// the open document exactly as it was.
+// the open document exactly as it was. Only a plain file can be a project: opening a named pipe
+// would wait for a program to write to it, and the window with it.
 bool frmMain::OpenDataFile(const QString &path, int mode)
 {
     SwaleProject project;
-    if (!loadProject(path.toStdString(), project).ok) {
+    if (!QFileInfo(path).isFile() || !loadProject(path.toStdString(), project).ok) {
         m_prompts.ShowErrorMessage(fileErrorText("Unable to open file:", path),
                                    MessageStyle::Exclamation, QLatin1String(kErrorTitle));
         return false;

@@ -1,12 +1,16 @@
 // The window starts with its defaults and without a word whatever sits where its settings files
-// should be, and leaves at exit without a word when it cannot write them.
+// should be, and leaves at exit without a word when it cannot write them. Opening something that
+// is no project file (a named pipe, a device, a folder, a huge file) says "Unable to open file:"
+// at once and leaves the open document alone.
 #include "FileFaults.h"
 #include "GlobalData.h"
 #include "HelpImagePanel.h"
 #include "MainMenus.h"
+#include "ProjectFile.h"
 #include "RecordingPrompts.h"
 #include "SettingsFiles.h"
 #include "frmMain.h"
+#include "tvrEditBox.h"
 
 #include <QAction>
 #include <QDir>
@@ -57,7 +61,7 @@ bool writeRepeated(const QString &path, const QByteArray &line, int size)
 
 } // namespace
 
-class tst_HostileSettings : public QObject
+class tst_HostileFiles : public QObject
 {
     Q_OBJECT
 
@@ -67,6 +71,8 @@ private slots:
 
     void windowStartsWithDefaultsAndLeavesQuietly_data();
     void windowStartsWithDefaultsAndLeavesQuietly();
+    void openingWhatIsNoProjectLeavesTheDocument_data();
+    void openingWhatIsNoProjectLeavesTheDocument();
 
 private:
     // Puts `kind` where every settings file of both folders should be.
@@ -78,7 +84,7 @@ private:
     RecordingPrompts m_prompts;
 };
 
-void tst_HostileSettings::init()
+void tst_HostileFiles::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
@@ -91,13 +97,13 @@ void tst_HostileSettings::init()
     m_prompts.clear();
 }
 
-void tst_HostileSettings::cleanup()
+void tst_HostileFiles::cleanup()
 {
     QCOMPARE(m_prompts.pendingAnswers(), 0);
     m_folder.reset();
 }
 
-QStringList tst_HostileSettings::settingsPaths() const
+QStringList tst_HostileFiles::settingsPaths() const
 {
     QStringList paths;
     for (const char *name : kSettingsFiles)
@@ -107,7 +113,7 @@ QStringList tst_HostileSettings::settingsPaths() const
     return paths;
 }
 
-void tst_HostileSettings::makeHostile(Hostile kind)
+void tst_HostileFiles::makeHostile(Hostile kind)
 {
     const QStringList paths = settingsPaths();
     // One file of each kind, the others hard links to it: 50 MB are written once.
@@ -153,7 +159,7 @@ void tst_HostileSettings::makeHostile(Hostile kind)
     }
 }
 
-void tst_HostileSettings::windowStartsWithDefaultsAndLeavesQuietly_data()
+void tst_HostileFiles::windowStartsWithDefaultsAndLeavesQuietly_data()
 {
     QTest::addColumn<int>("kind");
     QTest::newRow("unreadable files") << int(Hostile::Unreadable);
@@ -165,7 +171,7 @@ void tst_HostileSettings::windowStartsWithDefaultsAndLeavesQuietly_data()
     QTest::newRow("settings folder cannot be created") << int(Hostile::SettingsFolderIsAFile);
 }
 
-void tst_HostileSettings::windowStartsWithDefaultsAndLeavesQuietly()
+void tst_HostileFiles::windowStartsWithDefaultsAndLeavesQuietly()
 {
     QFETCH(int, kind);
     const Hostile hostile = static_cast<Hostile>(kind);
@@ -214,5 +220,52 @@ void tst_HostileSettings::windowStartsWithDefaultsAndLeavesQuietly()
     }
 }
 
-QTEST_MAIN(tst_HostileSettings)
-#include "tst_HostileSettings.moc"
+void tst_HostileFiles::openingWhatIsNoProjectLeavesTheDocument_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("named pipe nobody writes") << "pipe";
+    QTest::newRow("link to /dev/zero") << "device";
+    QTest::newRow("folder") << "folder";
+    QTest::newRow("50 MB of lines") << "huge";
+}
+
+void tst_HostileFiles::openingWhatIsNoProjectLeavesTheDocument()
+{
+    QFETCH(QString, kind);
+    const QString documents = QString::fromStdString(m_folders.documentsFolder);
+    const QString kept = documents + QStringLiteral("kept.swl");
+    SwaleProject project;
+    project.inputText[1] = "Kept job";
+    project.solutionMethod = 1;
+    project.channelFlowMethod = 1;
+    QVERIFY(saveProject(kept.toStdString(), project).ok);
+    frmMain window(m_prompts, m_folders);
+    QVERIFY(window.OpenDataFile(kept, OpenNormal));
+
+    const QString path = documents + QStringLiteral("hostile.swl");
+    const QByteArray name = QFile::encodeName(path);
+    if (kind == QLatin1String("pipe"))
+        QCOMPARE(mkfifo(name.constData(), 0644), 0);
+    else if (kind == QLatin1String("device"))
+        QCOMPARE(symlink("/dev/zero", name.constData()), 0);
+    else if (kind == QLatin1String("folder"))
+        QVERIFY(QDir().mkdir(path));
+    else
+        QVERIFY(writeRepeated(path, "Swale_03\r\n", kHugeSize));
+    const QString caption = window.windowTitle();
+    const QString recent = window.menus().mnuFile_Recent[1]->text();
+
+    m_prompts.answerOpen(path);
+    m_prompts.answerMessage();
+    window.menus().mnuFile_Open->trigger();
+    QCOMPARE(m_prompts.messages(), QStringList { QStringLiteral("Unable to open file:\r") + path });
+    QCOMPARE(window.windowTitle(), caption);
+    QCOMPARE(window.currentFilePath(), kept);
+    QCOMPARE(window.txtInput(1)->text(), QStringLiteral("Kept job"));
+    QVERIFY(!window.isDataChanged());
+    QCOMPARE(window.menus().mnuFile_Recent[1]->text(), recent);
+    QVERIFY(!window.menus().mnuFile_Recent[2]->isVisible());
+}
+
+QTEST_MAIN(tst_HostileFiles)
+#include "tst_HostileFiles.moc"
