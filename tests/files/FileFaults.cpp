@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <vector>
 
@@ -99,15 +100,22 @@ OrdinaryUser::OrdinaryUser()
 {
     if (geteuid() != 0)
         return;
+    m_group = getegid();
+    const int count = getgroups(0, nullptr);
+    m_groups.resize(static_cast<size_t>(count > 0 ? count : 0));
+    if (count > 0 && getgroups(count, m_groups.data()) != count)
+        m_groups.clear();
     // Groups first: once the user is not root it may not change them.
     if (setgroups(0, nullptr) != 0 || setegid(kNoGroup) != 0) {
         m_error = systemError("dropping the groups of root");
-        setegid(0);
+        setegid(m_group);
+        setgroups(m_groups.size(), m_groups.data());
         return;
     }
     if (seteuid(kNobody) != 0) {
         m_error = systemError("acting as user 65534");
-        setegid(0);
+        setegid(m_group);
+        setgroups(m_groups.size(), m_groups.data());
         return;
     }
     m_switched = true;
@@ -118,10 +126,9 @@ OrdinaryUser::~OrdinaryUser()
     if (!m_switched)
         return;
     // The saved user id is still root, so the way back is open.
-    if (seteuid(0) != 0 || setegid(0) != 0)
+    if (seteuid(0) != 0 || setegid(m_group) != 0)
         std::abort(); // a test program that cannot return to root would test nothing further
-    const gid_t rootGroup = 0;
-    setgroups(1, &rootGroup);
+    setgroups(m_groups.size(), m_groups.data());
 }
 
 void openToOrdinaryUser(const std::string &folder)

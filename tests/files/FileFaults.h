@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <sys/types.h>
 
@@ -27,6 +28,8 @@ public:
 
 private:
     bool m_switched = false;
+    gid_t m_group = 0; // root's group and supplementary groups, given back at the end
+    std::vector<gid_t> m_groups;
     std::string m_error;
 };
 
