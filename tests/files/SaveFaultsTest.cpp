@@ -1,7 +1,10 @@
-// A save over an existing project that meets a read-only folder, a full disk or a write that
-// fails part way must leave the old file byte for byte and no temporary file beside it.
+// A save over an existing project or settings file that meets a read-only folder, a full disk or
+// a write that fails part way must leave the old file byte for byte and no temporary file
+// beside it.
 #include "FileFaults.h"
 #include "ProjectFile.h"
+#include "RecentFiles.h"
+#include "SettingsFiles.h"
 #include "TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -137,6 +140,45 @@ TEST_P(SaveFaults, KeepTheOldFileAndLeaveNoTemporaryFile)
     ASSERT_TRUE(loadProject(m_path, loaded).ok);
     EXPECT_EQ(loaded.inputText, edited.inputText);
     EXPECT_EQ(GetLastUsedRow(loaded), 120);
+}
+
+// The settings written at exit and on a help-image size change meet the same faults: each writer
+// answers false, says nothing, and leaves the settings of the last run as they were.
+TEST_P(SaveFaults, SettingsWritersKeepTheOldFiles)
+{
+    const SaveFaultCase &row = GetParam();
+    FaultyFolder folder(row.fault, m_folderPath);
+    const std::string settings = m_folderPath + "/";
+    RecentFileList recent;
+    recent.add("/home/user/route 9.swl");
+    ASSERT_TRUE(WriteWindowState(settings + kWindowStateFile, WindowShowState::Normal, 450, 600,
+                                 11400, 14400));
+    ASSERT_TRUE(WriteDefHelpImage(settings, 3));
+    ASSERT_TRUE(recent.save(settings + kRecentFilesFile));
+    const char *const names[] = { kWindowStateFile, kDefHelpImageFile, kRecentFilesFile };
+    std::vector<std::string> oldBytes;
+    for (const char *name : names)
+        oldBytes.push_back(readBytes(settings + name));
+    const std::vector<std::string> entries = entriesOf(m_folderPath);
+
+    // The smallest new file, DefHelpImg.ini, holds "1" and CR LF: a write failing part way
+    // stores one byte of it.
+    const std::string notInForce = folder.arm(3);
+    if (!notInForce.empty())
+        GTEST_SKIP() << saveFaultName(row.fault) << " cannot be made here: " << notInForce;
+    recent.add("/home/user/median ditch.swl");
+    const bool stateWritten
+            = WriteWindowState(settings + kWindowStateFile, WindowShowState::Maximised, 0, 0, 0, 0);
+    const bool sizeWritten = WriteDefHelpImage(settings, 1);
+    const bool recentWritten = recent.save(settings + kRecentFilesFile);
+    folder.disarm();
+
+    EXPECT_FALSE(stateWritten);
+    EXPECT_FALSE(sizeWritten);
+    EXPECT_FALSE(recentWritten);
+    for (size_t i = 0; i < oldBytes.size(); ++i)
+        EXPECT_EQ(readBytes(settings + names[i]), oldBytes[i]) << names[i];
+    EXPECT_EQ(entriesOf(m_folderPath), entries) << "a temporary file is left";
 }
 
 INSTANTIATE_TEST_SUITE_P(Save, SaveFaults, ::testing::ValuesIn(kSaveFaultCases),
