@@ -138,6 +138,7 @@ void tst_SaveFaults::failedSaveLosesNothing()
     m_window->txtInput(1)->setText(edit);
     QVERIFY(m_window->isDataChanged());
     const QString caption = m_window->windowTitle();
+    const QString dataFolder = m_window->currentDataFolder();
     const QStringList recent = recentMenu();
     const size_t newSize = static_cast<size_t>(fileBytes(target).size() + edit.size());
 
@@ -162,6 +163,7 @@ void tst_SaveFaults::failedSaveLosesNothing()
     QVERIFY(m_window->isDataChanged());
     QCOMPARE(m_window->windowTitle(), caption);
     QCOMPARE(m_window->currentFilePath(), opened);
+    QCOMPARE(m_window->currentDataFolder(), dataFolder);
     QCOMPARE(recentMenu(), recent);
     QCOMPARE(m_window->txtInput(1)->text(), edit);
 
