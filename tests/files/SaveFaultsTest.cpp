@@ -122,10 +122,11 @@ TEST_P(SaveFaults, KeepTheOldFileAndLeaveNoTemporaryFile)
     const std::string notInForce = folder.arm(newSize);
     if (!notInForce.empty())
         GTEST_SKIP() << saveFaultName(row.fault) << " cannot be made here: " << notInForce;
-    RecordProperty("mechanism", folder.mechanism());
-    std::cout << "fault made by: " << folder.mechanism() << std::endl;
     const ProjectFileResult result = saveProject(m_path, edited);
     folder.disarm();
+    // Logged only now: a file-size limit would also stop output going to a file.
+    RecordProperty("mechanism", folder.mechanism());
+    std::cout << "fault made by: " << folder.mechanism() << std::endl;
 
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.failedStep, row.failedStep);
