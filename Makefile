@@ -3,13 +3,26 @@
 BUILD_DIR ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: run test build deps bench clean
+.PHONY: run test build deps bench clean test-sanitized
 
 run: build
 	@scripts/run.sh $(BUILD_DIR)
 
 test: build
 	cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
+
+# The whole suite again, built with AddressSanitizer and UndefinedBehaviorSanitizer. Leaks inside
+# Qt's platform and font libraries are not ours: tests/sanitizers/lsan.supp names them.
+SAN_BUILD_DIR ?= build-asan
+test-sanitized: deps
+	@if [ ! -f $(SAN_BUILD_DIR)/build.ninja ]; then \
+	    cmake -S . -B $(SAN_BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DSWALE_SANITIZE=ON; fi
+	cmake --build $(SAN_BUILD_DIR) -j $(JOBS)
+	cd $(SAN_BUILD_DIR) && \
+	    ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 \
+	    LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitizers/lsan.supp:print_suppressions=0 \
+	    UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
+	    ctest --output-on-failure -j $(JOBS)
 
 bench: build
 	$(BUILD_DIR)/bin/swale-bench --benchmark_min_time=0.2

@@ -65,6 +65,13 @@ ScrollingPage::ScrollingPage(int page, QWidget *content, QWidget *parent)
     connect(qApp, &QApplication::focusChanged, this, &ScrollingPage::onFocusChanged);
 }
 
+// Deleting the page's children moves the focus, and QObject would cut the connection only after
+// this page had stopped being a ScrollingPage: cut it first.
+ScrollingPage::~ScrollingPage()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void ScrollingPage::ArrangeScrollBars()
 {
     int W = width();

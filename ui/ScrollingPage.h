@@ -26,6 +26,7 @@ class ScrollingPage : public QWidget
 public:
     // Takes `content` as the page's content panel; the page's layout sizes the panel.
     ScrollingPage(int page, QWidget *content, QWidget *parent = nullptr);
+    ~ScrollingPage() override;
 
     int page() const { return m_page; }
     QWidget *picMovingWindow() const { return m_content; }
