@@ -6,9 +6,11 @@ set -euo pipefail
 packages=(
     cmake ninja-build g++ make pkg-config
     qt6-base-dev qt6-svg-dev libqt6svg6 qt6-image-formats-plugins
+    qt6-charts-dev libqt6opengl6-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     fonts-dejavu-core fonts-liberation2
-    xvfb xauth poppler-utils
+    xvfb xauth poppler-utils openbox xdotool
+    clang-format-14 dpkg-dev file
     clang libclang-rt-14-dev
 )
 
