@@ -6,6 +6,8 @@
 #include "SwaleInputData.h"
 #include "Validation.h"
 
+#include <utility>
+
 CalculationOutcome Calculate(const SwaleProject &project, const CalcSettings &settings)
 {
     CalculationOutcome outcome;
@@ -31,5 +33,6 @@ CalculationOutcome Calculate(const SwaleProject &project, const CalcSettings &se
     }
     outcome.status = CalculationOutcome::Status::Ok;
     outcome.clipboardText = CopyResultsToClipboard(outcome.results);
+    outcome.record = std::move(data);
     return outcome;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CalcContext.h"
+#include "SwaleInputData.h"
 #include "SwaleProject.h"
 
 #include <array>
@@ -35,6 +36,9 @@ struct CalculationOutcome
     std::string clipboardText;
     ValidationFault fault;
     std::vector<std::string> failureMessages;
+    // The calculation record at the normal depth found, for the checks and drawings that build on
+    // a result (Ok only; zeroed otherwise).
+    SwaleInputData record;
 };
 
 // The Calculate command without its window: a zeroed record, validation of the project, the
