@@ -1,5 +1,7 @@
 #include "MessagePrompts.h"
 
+#include "RecoveryDialog.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -105,4 +107,9 @@ QString MessagePrompts::askOpenFileName(const FileDialogRequest &request)
 QString MessagePrompts::askSaveFileName(const FileDialogRequest &request)
 {
     return runDialog(makeDialog(request, QFileDialog::AcceptSave));
+}
+
+RecoveryAnswer MessagePrompts::askRecovery(const QList<RecoveryOffer> &offers)
+{
+    return askRecoveryInDialog(offers, QApplication::activeWindow());
 }

@@ -12,4 +12,5 @@ public:
     int ShowErrorMessage(const QString &message, int style, const QString &title) override;
     QString askOpenFileName(const FileDialogRequest &request) override;
     QString askSaveFileName(const FileDialogRequest &request) override;
+    RecoveryAnswer askRecovery(const QList<RecoveryOffer> &offers) override;
 };

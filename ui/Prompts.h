@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -45,6 +46,27 @@ struct FileDialogRequest
     int flags = 0;
 };
 
+// One autosave left by a run of the program that did not end cleanly, as the recovery dialog
+// lists it.
+struct RecoveryOffer
+{
+    QString name; // the document's name
+    QString savedAt; // when it was written, local time
+    QString originalPath; // the user's file; "" for an untitled document
+};
+
+// The user's answer to the recovery dialog.
+struct RecoveryAnswer
+{
+    enum Action {
+        Keep, // decide at a later start: the dialog was closed
+        Open, // open offer `index` (the others are kept)
+        Discard, // delete every offered autosave
+    };
+    Action action = Keep;
+    int index = -1;
+};
+
 // Every message box and file dialog of the window goes through this interface, so that the
 // tests can script the answers and the window never blocks a headless run.
 class Prompts
@@ -58,4 +80,7 @@ public:
     virtual QString askOpenFileName(const FileDialogRequest &request) = 0;
     // The Save dialog; "" when the user cancels.
     virtual QString askSaveFileName(const FileDialogRequest &request) = 0;
+    // The recovery dialog at start-up: lists `offers` and asks which to open, or to discard
+    // them all.
+    virtual RecoveryAnswer askRecovery(const QList<RecoveryOffer> &offers) = 0;
 };

@@ -9,6 +9,7 @@
 #include "PrintRoutine.h"
 #include "Prompts.h"
 #include "RecentFilesMenu.h"
+#include "RecoveryStore.h"
 #include "Results.h"
 #include "ResultsPage.h"
 #include "ScrollingPage.h"
@@ -28,6 +29,7 @@
 #include <QResizeEvent>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 
 const char *const kProgramTitle = "TAVRO Channel and Overland Flow Analysis";
@@ -60,6 +62,7 @@ frmMain::frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *prin
     m_menus = buildMainMenus(*this);
     m_recentFiles
             = std::make_unique<RecentFilesMenu>(m_menus.mnuFile_Recent, m_menus.mnuFile_Separator3);
+    m_recovery = std::make_unique<RecoveryStore>(*this, prompts, m_folders);
     buildPages();
     connectCommands();
     setCaption(QStringLiteral("<untitled>"));
@@ -80,6 +83,8 @@ frmMain::frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *prin
     for (ScrollingPage *page : picStaionaryWindow)
         page->setArrangeSuspended(false);
     relayoutPages();
+    // Autosaves of runs that did not end cleanly are offered once the window is up.
+    QTimer::singleShot(0, this, [this] { m_recovery->offerRecoveredFiles(); });
 }
 
 frmMain::~frmMain() = default;
@@ -228,6 +233,7 @@ SwaleProject frmMain::currentProject() const
 void frmMain::setDataChanged(bool changed)
 {
     m_dataChanged = changed;
+    m_recovery->documentChanged(changed);
 }
 
 void frmMain::setResultsShown(bool shown)
@@ -238,6 +244,7 @@ void frmMain::setResultsShown(bool shown)
 
 void frmMain::setCaption(const QString &documentName)
 {
+    m_documentName = documentName;
     setWindowTitle(QLatin1String(kProgramTitle) + QStringLiteral(" - ") + documentName);
 }
 
@@ -395,5 +402,6 @@ void frmMain::closeEvent(QCloseEvent *event)
     }
     WindowPlacementFiles::save(*this, m_folders);
     m_recentFiles->save(QString::fromStdString(m_folders.settingsFolder));
+    m_recovery->endCleanly();
     event->accept();
 }

@@ -19,6 +19,7 @@ class Prompts;
 class QPushButton;
 class QTabWidget;
 class RecentFilesMenu;
+class RecoveryStore;
 class ResultsPage;
 class ScrollingPage;
 class ctrlPictureViewer;
@@ -69,6 +70,13 @@ public:
     bool resultsShown() const { return m_resultsShown; }
     // The document as the controls hold it.
     SwaleProject currentProject() const;
+    // The name the caption gives the document: its file name, "<untitled>" or an example's.
+    QString documentName() const { return m_documentName; }
+    // The autosaves and recovery copies of the document.
+    RecoveryStore &recovery() const { return *m_recovery; }
+    // Opens the recovery file `path` of the document `name` untitled and changed, so that
+    // Save asks for a name; the caption says it was recovered.
+    bool openRecoveredProject(const QString &path, const QString &name);
 
     // --- Procedures of the window ---------------------------------------------------------
     void ClearProject();
@@ -112,6 +120,7 @@ private:
     void setResultsShown(bool shown);
     void setCaption(const QString &documentName);
     void adoptFileName(const QString &path);
+    void reportSaveFailure(const char *text, const QString &path);
     void onInputEdited(int index);
     void onRatingCurveEdited();
     void onSolutionMethodClicked(int index);
@@ -132,6 +141,7 @@ private:
 
     MainMenus m_menus;
     std::unique_ptr<RecentFilesMenu> m_recentFiles;
+    std::unique_ptr<RecoveryStore> m_recovery;
     QTabWidget *SSTab1 = nullptr;
     std::array<ScrollingPage *, 2> picStaionaryWindow {}; // page 0 Input Data, page 1 Results
     InputPage *m_inputPage = nullptr;
@@ -143,6 +153,8 @@ private:
 
     QString m_currentFilePath; // "" for an untitled project
     QString m_currentDataFolder; // folder of the last project opened or saved
+    QString m_documentName; // as the caption names it
+    bool m_saveFailed = false; // the last save showed a file error
     bool m_dataChanged = false;
     bool m_resultsShown = false;
     std::array<bool, 3> m_panelShown {}; // per tab: Input Data, Results, Help

@@ -7,6 +7,7 @@
 #include "ProjectFile.h"
 #include "Prompts.h"
 #include "RecentFilesMenu.h"
+#include "RecoveryStore.h"
 #include "ResultsPage.h"
 #include "RdcGridA.h"
 #include "ScrollingPage.h"
@@ -53,7 +54,8 @@ int frmMain::AskToSaveChanges()
 }
 
 // Yes saves and goes on whatever the save's outcome: a failed or cancelled save does not stop
-// the command that asked.
+// the command that asked. A save that failed leaves a recovery copy first, so the edits the
+// command is about to drop are not lost.
 bool frmMain::settleUnsavedChanges()
 {
     if (!m_dataChanged)
@@ -61,8 +63,9 @@ bool frmMain::settleUnsavedChanges()
     const int answer = AskToSaveChanges();
     if (answer == MessageAnswer::Cancel)
         return false;
-    if (answer == MessageAnswer::Yes)
-        SaveProject();
+    m_saveFailed = false;
+    if (answer == MessageAnswer::Yes && !SaveProject() && m_saveFailed)
+        m_recovery->keepAfterFailedSave();
     return true;
 }
 
@@ -76,7 +79,7 @@ void frmMain::ClearProject()
     m_inputPage->showProject(empty);
     m_resultsPage->clearBoxes();
     relayoutPages();
-    m_dataChanged = false;
+    setDataChanged(false);
     setResultsShown(false);
     m_currentFilePath.clear();
     setCaption(QStringLiteral("<untitled>"));
@@ -172,7 +175,7 @@ bool frmMain::OpenDataFile(const QString &path, int mode)
         m_currentFilePath.clear();
         setCaption(QFileInfo(path).fileName());
     }
-    m_dataChanged = false;
+    setDataChanged(false);
     if (m_inputPage->ratingCurveGrid()->isVisible())
         m_inputPage->ratingCurveGrid()->Refresh();
     return true;
@@ -192,15 +195,14 @@ bool frmMain::SaveProjectAs()
         return false;
     const ProjectFileResult result = saveProject(path.toStdString(), currentProject());
     if (!result.ok) {
-        const char *text = result.failedStep == ProjectFileStep::Open ? "Error opening file:"
-                                                                      : "Error writing to file:";
-        m_prompts.ShowErrorMessage(fileErrorText(text, path), MessageStyle::Exclamation,
-                                   QLatin1String(kErrorTitle));
+        reportSaveFailure(result.failedStep == ProjectFileStep::Open ? "Error opening file:"
+                                                                     : "Error writing to file:",
+                          path);
         return false;
     }
     m_recentFiles->add(path);
     adoptFileName(path);
-    m_dataChanged = false;
+    setDataChanged(false);
     return true;
 }
 
@@ -209,13 +211,12 @@ bool frmMain::WriteDataFile(const QString &path)
 {
     const ProjectFileResult result = saveProject(path.toStdString(), currentProject());
     if (!result.ok) {
-        const char *text = result.failedStep == ProjectFileStep::Open ? "Unable to open file:"
-                                                                      : "Error writing data file:";
-        m_prompts.ShowErrorMessage(fileErrorText(text, path), MessageStyle::Exclamation,
-                                   QLatin1String(kErrorTitle));
+        reportSaveFailure(result.failedStep == ProjectFileStep::Open ? "Unable to open file:"
+                                                                     : "Error writing data file:",
+                          path);
         return false;
     }
-    m_dataChanged = false;
+    setDataChanged(false);
     return true;
 }
 
@@ -224,4 +225,21 @@ void frmMain::adoptFileName(const QString &path)
     m_currentFilePath = path;
     m_currentDataFolder = folderOf(path);
     setCaption(QFileInfo(path).fileName());
+}
+
+void frmMain::reportSaveFailure(const char *text, const QString &path)
+{
+    m_saveFailed = true;
+    m_prompts.ShowErrorMessage(fileErrorText(text, path), MessageStyle::Exclamation,
+                               QLatin1String(kErrorTitle));
+}
+
+bool frmMain::openRecoveredProject(const QString &path, const QString &name)
+{
+    if (!OpenDataFile(path, OpenExample))
+        return false;
+    setCaption(name);
+    setWindowTitle(windowTitle() + QStringLiteral(" (recovered)"));
+    setDataChanged(true);
+    return true;
 }

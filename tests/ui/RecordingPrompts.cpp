@@ -4,17 +4,22 @@
 
 void RecordingPrompts::answerMessage(int answer)
 {
-    m_script.append({ Kind::Message, answer, QString() });
+    m_script.append({ Kind::Message, answer, QString(), {} });
 }
 
 void RecordingPrompts::answerOpen(const QString &path)
 {
-    m_script.append({ Kind::OpenDialog, MessageAnswer::Ok, path });
+    m_script.append({ Kind::OpenDialog, MessageAnswer::Ok, path, {} });
 }
 
 void RecordingPrompts::answerSave(const QString &path)
 {
-    m_script.append({ Kind::SaveDialog, MessageAnswer::Ok, path });
+    m_script.append({ Kind::SaveDialog, MessageAnswer::Ok, path, {} });
+}
+
+void RecordingPrompts::answerRecovery(RecoveryAnswer answer)
+{
+    m_script.append({ Kind::RecoveryDialog, MessageAnswer::Ok, QString(), answer });
 }
 
 QStringList RecordingPrompts::messages() const
@@ -48,7 +53,7 @@ bool RecordingPrompts::takeAnswer(Kind kind, const QString &what, Answer &answer
 
 int RecordingPrompts::ShowErrorMessage(const QString &message, int style, const QString &title)
 {
-    m_records.append({ Kind::Message, message, style, title, {} });
+    m_records.append({ Kind::Message, message, style, title, {}, {} });
     Answer answer;
     if (takeAnswer(Kind::Message, QStringLiteral("message box \"%1\"").arg(message), answer))
         return answer.button;
@@ -58,7 +63,7 @@ int RecordingPrompts::ShowErrorMessage(const QString &message, int style, const 
 
 QString RecordingPrompts::askOpenFileName(const FileDialogRequest &request)
 {
-    m_records.append({ Kind::OpenDialog, QString(), 0, QString(), request });
+    m_records.append({ Kind::OpenDialog, QString(), 0, QString(), request, {} });
     Answer answer;
     return takeAnswer(Kind::OpenDialog, QStringLiteral("Open dialog"), answer) ? answer.path
                                                                                : QString();
@@ -66,8 +71,18 @@ QString RecordingPrompts::askOpenFileName(const FileDialogRequest &request)
 
 QString RecordingPrompts::askSaveFileName(const FileDialogRequest &request)
 {
-    m_records.append({ Kind::SaveDialog, QString(), 0, QString(), request });
+    m_records.append({ Kind::SaveDialog, QString(), 0, QString(), request, {} });
     Answer answer;
     return takeAnswer(Kind::SaveDialog, QStringLiteral("Save dialog"), answer) ? answer.path
                                                                                : QString();
+}
+
+// Unscripted, the recovery dialog answers Later: nothing is opened or deleted.
+RecoveryAnswer RecordingPrompts::askRecovery(const QList<RecoveryOffer> &offers)
+{
+    m_records.append({ Kind::RecoveryDialog, QString(), 0, QString(), {}, offers });
+    Answer answer;
+    return takeAnswer(Kind::RecoveryDialog, QStringLiteral("recovery dialog"), answer)
+            ? answer.recovery
+            : RecoveryAnswer {};
 }

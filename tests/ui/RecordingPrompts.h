@@ -11,7 +11,7 @@
 class RecordingPrompts : public Prompts
 {
 public:
-    enum class Kind { Message, OpenDialog, SaveDialog };
+    enum class Kind { Message, OpenDialog, SaveDialog, RecoveryDialog };
 
     struct Record
     {
@@ -20,6 +20,7 @@ public:
         int style = 0;
         QString title;
         FileDialogRequest request; // file dialogs
+        QList<RecoveryOffer> offers; // the recovery dialog
     };
 
     // Script the next prompt: a message box answered with `answer` (MessageAnswer), or a file
@@ -27,6 +28,7 @@ public:
     void answerMessage(int answer = MessageAnswer::Ok);
     void answerOpen(const QString &path);
     void answerSave(const QString &path);
+    void answerRecovery(RecoveryAnswer answer);
 
     // With `on`, unscripted message boxes are answered OK and dialogs cancelled without failing
     // (for tools that drive the window, not for tests).
@@ -41,6 +43,7 @@ public:
     int ShowErrorMessage(const QString &message, int style, const QString &title) override;
     QString askOpenFileName(const FileDialogRequest &request) override;
     QString askSaveFileName(const FileDialogRequest &request) override;
+    RecoveryAnswer askRecovery(const QList<RecoveryOffer> &offers) override;
 
 private:
     struct Answer
@@ -48,6 +51,7 @@ private:
         Kind kind;
         int button = MessageAnswer::Ok;
         QString path;
+        RecoveryAnswer recovery;
     };
     // The scripted answer for a prompt of `kind`, or nothing when none was scripted.
     bool takeAnswer(Kind kind, const QString &what, Answer &answer);
