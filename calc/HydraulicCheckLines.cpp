@@ -1,0 +1,106 @@
+#include "HydraulicCheckLines.h"
+
+#include "NumberText.h"
+
+#include <cfloat>
+#include <cmath>
+#include <cstdio>
+
+// Chen, Y. H. and Cotton, G. K. (1988), Design of Roadside Channels with Flexible Linings,
+// Hydraulic Engineering Circular No. 15, FHWA-IP-87-7, Table 2.
+const std::array<PermissibleShear, 16> kTypicalPermissibleShear { {
+        { "Woven paper net", 0.15 },
+        { "Jute net", 0.45 },
+        { "Fiberglass roving, single layer", 0.60 },
+        { "Fiberglass roving, double layer", 0.85 },
+        { "Straw with net", 1.45 },
+        { "Curled wood mat", 1.55 },
+        { "Synthetic mat", 2.00 },
+        { "Vegetation, retardance class A", 3.70 },
+        { "Vegetation, retardance class B", 2.10 },
+        { "Vegetation, retardance class C", 1.00 },
+        { "Vegetation, retardance class D", 0.60 },
+        { "Vegetation, retardance class E", 0.35 },
+        { "Gravel riprap, 1 in", 0.33 },
+        { "Gravel riprap, 2 in", 0.67 },
+        { "Rock riprap, 6 in", 2.00 },
+        { "Rock riprap, 12 in", 4.00 },
+} };
+
+const char *const kPermissibleShearSource
+        = "Source: FHWA, Design of Roadside Channels with Flexible Linings, HEC-15 (Chen and "
+          "Cotton, 1988), Table 2. Compare the maximum bed shear [τd] with the lining's value.";
+const char *const kShearUnit = "lb/ft²";
+
+namespace {
+CheckLine plainLine(const char *quantity, const char *symbol, double value, const char *unit)
+{
+    return { quantity, symbol, checkValueText(value), unit, "", "", false };
+}
+
+CheckLine regimeLine(FlowRegime regime)
+{
+    CheckLine line { "Flow regime", "", regimeName(regime), "", "subcritical, [Fr] < 0.86", "",
+                     regime != FlowRegime::Subcritical };
+    switch (regime) {
+    case FlowRegime::Subcritical:
+        line.verdict = "meets the limit: stable water surface";
+        break;
+    case FlowRegime::NearCritical:
+        line.verdict = "fails: near-critical flow (0.86 to 1.13) has an unstable, wavy water "
+                       "surface; change the slope or the section";
+        break;
+    case FlowRegime::Supercritical:
+        line.verdict = "fails: supercritical flow is fast and shallow, and a hydraulic jump "
+                       "forms where it slows";
+        break;
+    }
+    return line;
+}
+
+CheckLine velocityRatioLine(double ratio)
+{
+    CheckLine line = plainLine("Velocity ratio", "[V/Vp]", ratio, "");
+    line.limit = "at most 1";
+    line.fails = ratio > 1;
+    line.verdict = line.fails ? "fails: the velocity exceeds the permissible velocity, so the "
+                                "lining erodes ([FSe] below 1)"
+                              : "meets the limit: within the permissible velocity";
+    return line;
+}
+
+CheckLine residenceTimeLine(const std::optional<double> &minutes)
+{
+    if (minutes)
+        return plainLine("Residence time", "[tr]", *minutes, "min");
+    return { "Residence time", "[tr]", "", "min", "", "none: the method has no channel length",
+             false };
+}
+} // namespace
+
+std::string checkValueText(double value)
+{
+    // Values beyond single precision keep seven digits of the double rather than show "INF".
+    if (std::fabs(value) <= FLT_MAX)
+        return AddLeadingZero(NumberToDisplayText(RoundToSingle(value)));
+    char text[32];
+    std::snprintf(text, sizeof text, "%.7G", value);
+    return text;
+}
+
+std::vector<CheckLine> hydraulicCheckLines(const HydraulicChecks &c)
+{
+    return {
+        plainLine("Critical depth", "[dc]", c.criticalDepth, "ft"),
+        plainLine("Critical velocity", "[Vc]", c.criticalVelocity, "ft/s"),
+        plainLine("Critical slope", "[Scc]", c.criticalSlope, "ft/ft"),
+        plainLine("Hydraulic depth", "[Dh]", c.hydraulicDepth, "ft"),
+        plainLine("Froude number", "[Fr]", c.froude, ""),
+        regimeLine(c.regime),
+        plainLine("Mean boundary shear", "[τ0]", c.shearMean, kShearUnit),
+        plainLine("Maximum bed shear", "[τd]", c.shearMax, kShearUnit),
+        plainLine("Specific energy", "[E]", c.specificEnergy, "ft"),
+        velocityRatioLine(c.velocityRatio),
+        residenceTimeLine(c.residenceTime),
+    };
+}
