@@ -40,7 +40,12 @@ CheckLine plainLine(const char *quantity, const char *symbol, double value, cons
 
 CheckLine regimeLine(FlowRegime regime)
 {
-    CheckLine line { "Flow regime", "", regimeName(regime), "", "subcritical, [Fr] < 0.86", "",
+    CheckLine line { "Flow regime",
+                     "",
+                     regimeName(regime),
+                     "",
+                     "subcritical, [Fr] < 0.86",
+                     "",
                      regime != FlowRegime::Subcritical };
     switch (regime) {
     case FlowRegime::Subcritical:
@@ -73,8 +78,9 @@ CheckLine residenceTimeLine(const std::optional<double> &minutes)
 {
     if (minutes)
         return plainLine("Residence time", "[tr]", *minutes, "min");
-    return { "Residence time", "[tr]", "", "min", "", "none: the method has no channel length",
-             false };
+    return {
+        "Residence time", "[tr]", "", "min", "", "none: the method has no channel length", false
+    };
 }
 } // namespace
 

@@ -38,9 +38,9 @@ void computeChecks(const SwaleInputData &r, HydraulicChecks &c, const char *&ste
     c.criticalVelocity = checkedDivide(Q, critical.Ax);
     step = "Critical slope";
     // Manning's equation solved for the slope at the critical section.
-    const double root = checkedDivide(Q * r.RoughnessCoefficient,
-                                      kManningConstant * critical.Ax
-                                              * checkedPow(critical.Rh, 2.0 / 3.0));
+    const double root
+            = checkedDivide(Q * r.RoughnessCoefficient,
+                            kManningConstant * critical.Ax * checkedPow(critical.Rh, 2.0 / 3.0));
     c.criticalSlope = checkedFinite(root * root);
     step = "Hydraulic depth";
     c.hydraulicDepth = checkedDivide(r.FlowArea, r.TopWidth);
