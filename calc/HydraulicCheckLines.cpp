@@ -79,7 +79,7 @@ CheckLine residenceTimeLine(const std::optional<double> &minutes)
     if (minutes)
         return plainLine("Residence time", "[tr]", *minutes, "min");
     return {
-        "Residence time", "[tr]", "", "min", "", "none: the method has no channel length", false
+        "Residence time", "[tr]", "", "", "", "none: the method has no channel length", false
     };
 }
 } // namespace

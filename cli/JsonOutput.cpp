@@ -1,5 +1,7 @@
 #include "JsonOutput.h"
 
+#include "HydraulicChecks.h"
+
 #include <cstdio>
 
 namespace {
@@ -29,6 +31,45 @@ std::string jsonFault(const ValidationFault &fault)
         break;
     }
     return out + "}\n";
+}
+
+// A finite double at full precision: 17 significant digits read back to the same double.
+std::string jsonNumber(double value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%.17g", value);
+    return text;
+}
+
+// The "checks" member of an "ok" object; when the checks could not be computed, "checks" is
+// null and "checks_fault" gives the reason.
+std::string jsonChecks(const SwaleInputData &record)
+{
+    const HydraulicChecks c = computeHydraulicChecks(record);
+    if (!c.fault.empty())
+        return ", \"checks\": null, \"checks_fault\": " + jsonString(c.fault);
+    const std::pair<const char *, double> numbers[] = {
+        { "critical_depth", c.criticalDepth },
+        { "critical_velocity", c.criticalVelocity },
+        { "critical_slope", c.criticalSlope },
+        { "hydraulic_depth", c.hydraulicDepth },
+        { "froude", c.froude },
+    };
+    std::string out = ", \"checks\": {";
+    for (const auto &[key, value] : numbers)
+        out += std::string("\"") + key + "\": " + jsonNumber(value) + ", ";
+    out += "\"regime\": " + jsonString(regimeName(c.regime));
+    const std::pair<const char *, double> more[] = {
+        { "shear_mean", c.shearMean },
+        { "shear_max", c.shearMax },
+        { "specific_energy", c.specificEnergy },
+        { "velocity_ratio", c.velocityRatio },
+    };
+    for (const auto &[key, value] : more)
+        out += std::string(", \"") + key + "\": " + jsonNumber(value);
+    out += ", \"residence_time\": "
+            + (c.residenceTime ? jsonNumber(*c.residenceTime) : std::string("null"));
+    return out + "}";
 }
 } // namespace
 
@@ -72,7 +113,7 @@ std::string jsonOutcome(const CalculationOutcome &outcome)
         return "{\"status\": \"ok\", \"results\": "
                 + jsonStringArray(outcome.results.data() + 1,
                                   outcome.results.data() + outcome.results.size())
-                + "}\n";
+                + jsonChecks(outcome.record) + "}\n";
     case CalculationOutcome::Status::Invalid:
         return jsonFault(outcome.fault);
     case CalculationOutcome::Status::Failed:

@@ -5,7 +5,9 @@
 #include <string>
 
 // The --json output of swale-calc: one object on one line, ending in a newline.
-//   {"status": "ok", "results": [t1, ..., t18]}
+//   {"status": "ok", "results": [t1, ..., t18], "checks": {...}}: the hydraulic checks as JSON
+//   numbers (residence_time null for methods 3 and 4); "checks": null with "checks_fault": M
+//   when they could not be computed
 //   {"status": "invalid", "message": M}, plus "input": k or "row": r, "col": c
 //   {"status": "failed", "messages": [m1, ...]}
 //   {"status": "unreadable", "message": M}

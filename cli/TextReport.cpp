@@ -1,5 +1,6 @@
 #include "TextReport.h"
 
+#include "HydraulicCheckLines.h"
 #include "InputTable.h"
 #include "OutputTable.h"
 
@@ -7,10 +8,20 @@ namespace {
 constexpr size_t kCaptionWidth = 52;
 constexpr size_t kValueWidth = 14;
 
+// Characters of UTF-8 `text` (the symbols of the checks, such as τ, take two bytes).
+size_t characterCount(const std::string &text)
+{
+    size_t count = 0;
+    for (const char c : text)
+        count += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    return count;
+}
+
 std::string padRight(std::string text, size_t width, char fill)
 {
-    if (text.size() < width)
-        text.append(width - text.size(), fill);
+    const size_t length = characterCount(text);
+    if (length < width)
+        text.append(width - length, fill);
     return text;
 }
 
@@ -53,6 +64,31 @@ std::string resultLine(const SwaleProject &project, const CalculationOutcome &ou
         line += "  " + unit;
     return line + "\n";
 }
+
+// The "Hydraulic checks" block: each check as a result line, its limit and verdict below it.
+std::string checksBlock(const SwaleInputData &record)
+{
+    const HydraulicChecks checks = computeHydraulicChecks(record);
+    std::string out = "\nHydraulic checks\n";
+    if (!checks.fault.empty())
+        return out + "  Not computed: " + checks.fault + "\n";
+    for (const CheckLine &check : hydraulicCheckLines(checks)) {
+        std::string caption = check.quantity;
+        if (!check.symbol.empty())
+            caption += ", " + check.symbol;
+        std::string line = "  " + padRight(caption + " ", kCaptionWidth, '.');
+        if (!check.value.empty())
+            line += " " + padLeft(check.value, kValueWidth);
+        if (!check.unit.empty())
+            line += "  " + check.unit;
+        out += line + "\n";
+        if (!check.limit.empty())
+            out += "      limit " + check.limit + " -- " + check.verdict + "\n";
+        else if (!check.verdict.empty())
+            out += "      " + check.verdict + "\n";
+    }
+    return out;
+}
 } // namespace
 
 std::string resultsReport(const SwaleProject &project, const CalculationOutcome &outcome)
@@ -70,7 +106,7 @@ std::string resultsReport(const SwaleProject &project, const CalculationOutcome 
         out += resultGroupTitle(group, project.solutionMethod, project.channelFlowMethod);
         out += "\n" + lines;
     }
-    return out;
+    return out + checksBlock(outcome.record);
 }
 
 std::string faultReport(const CalculationOutcome &outcome)
