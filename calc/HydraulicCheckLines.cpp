@@ -49,14 +49,14 @@ CheckLine regimeLine(FlowRegime regime)
                      regime != FlowRegime::Subcritical };
     switch (regime) {
     case FlowRegime::Subcritical:
-        line.verdict = "meets the limit: stable water surface";
+        line.verdict = "Meets the limit: stable water surface";
         break;
     case FlowRegime::NearCritical:
-        line.verdict = "fails: near-critical flow (0.86 to 1.13) has an unstable, wavy water "
+        line.verdict = "Fails: near-critical flow (0.86 to 1.13) has an unstable, wavy water "
                        "surface; change the slope or the section";
         break;
     case FlowRegime::Supercritical:
-        line.verdict = "fails: supercritical flow is fast and shallow, and a hydraulic jump "
+        line.verdict = "Fails: supercritical flow is fast and shallow, and a hydraulic jump "
                        "forms where it slows";
         break;
     }
@@ -68,9 +68,9 @@ CheckLine velocityRatioLine(double ratio)
     CheckLine line = plainLine("Velocity ratio", "[V/Vp]", ratio, "");
     line.limit = "at most 1";
     line.fails = ratio > 1;
-    line.verdict = line.fails ? "fails: the velocity exceeds the permissible velocity, so the "
+    line.verdict = line.fails ? "Fails: the velocity exceeds the permissible velocity, so the "
                                 "lining erodes ([FSe] below 1)"
-                              : "meets the limit: within the permissible velocity";
+                              : "Meets the limit: within the permissible velocity";
     return line;
 }
 
@@ -78,9 +78,13 @@ CheckLine residenceTimeLine(const std::optional<double> &minutes)
 {
     if (minutes)
         return plainLine("Residence time", "[tr]", *minutes, "min");
-    return {
-        "Residence time", "[tr]", "", "", "", "none: the method has no channel length", false
-    };
+    return { "Residence time",
+             "[tr]",
+             "",
+             "",
+             "",
+             "Not computed: the method has no channel length",
+             false };
 }
 } // namespace
 

@@ -83,7 +83,7 @@ std::string checksBlock(const SwaleInputData &record)
             line += "  " + check.unit;
         out += line + "\n";
         if (!check.limit.empty())
-            out += "      limit " + check.limit + " -- " + check.verdict + "\n";
+            out += "      limit " + check.limit + ". " + check.verdict + "\n";
         else if (!check.verdict.empty())
             out += "      " + check.verdict + "\n";
     }

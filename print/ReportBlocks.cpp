@@ -216,6 +216,11 @@ void BlockBuilder::addField(const ReportField &field)
         page.rules.push_back({ QLineF(leaderLeft, y, leaderRight, y), kThinRule * 1.6 * m_unit,
                                RuleStyle::Dotted });
     }
+    if (!field.note.isEmpty()) {
+        const double x = c.captionLeft + kFieldIndent * m_unit;
+        height += placeLines(page, wrapText(field.note, valueFont, right() - x, m_measure), x,
+                             top + height, right() - x, valueFont);
+    }
     block.height = height + kRowPadding * m_unit;
 }
 

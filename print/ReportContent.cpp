@@ -1,5 +1,6 @@
 #include "ReportContent.h"
 
+#include "ReportChecks.h"
 #include "InputTable.h"
 #include "NumberText.h"
 #include "OutputTable.h"
@@ -174,10 +175,16 @@ ReportContent buildReportContent(const SwaleProject &project, const QString &pro
     }
     const QString fileText = projectFileName.isEmpty() ? QStringLiteral("<untitled>")
                                                        : QDir::toNativeSeparators(projectFileName);
-    content.titleFields.push_back({ QStringLiteral("Project File"), fileText, QString(), false });
+    ReportField fileField;
+    fileField.caption = QStringLiteral("Project File");
+    fileField.value = fileText;
+    fileField.numeric = false;
+    content.titleFields.push_back(fileField);
     content.jobName = content.titleFields.front().value;
     content.projectFileName = fileText;
     content.sections.push_back(inputSection(project));
     content.sections.push_back(resultsSection(project));
+    if (project.resultsShown)
+        content.sections.push_back(checksSection(project));
     return content;
 }

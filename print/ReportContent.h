@@ -17,6 +17,7 @@ struct ReportField
     QString unit; // "" for a quantity without unit
     bool numeric = true; // numbers align right in the value column; free text aligns left
     bool emphasised = false; // key results of the summary print in bold
+    QString note; // a line under the field (a check's limit and verdict); "" for none
 };
 
 // One row of the inlet rating curve as typed: data row number, depth (in) and discharge (cfs).
@@ -39,7 +40,7 @@ struct ReportGroup
 
 struct ReportSection
 {
-    QString heading; // "I.  INPUT DATA", "II.  RESULTS"
+    QString heading; // "I.  INPUT DATA", "II.  RESULTS", "III.  HYDRAULIC CHECKS"
     QString note; // a remark printed in place of groups that are missing ("" for none)
     bool keepTogether = false; // starts a new page rather than break, when it fits on one
     std::vector<ReportGroup> groups;
@@ -65,6 +66,6 @@ extern const char *const kReportProgramName;
 // Builds the report of `project` as the window shows it: the inputs that the chosen solution and
 // channel-flow methods ask for, under the headings of the Input Data page; the rating curve for
 // method 3; the result boxes that the Results page shows, under its group headings and with the
-// captions of the chosen options. `projectFileName` is the path of the open project file, "" for
-// an untitled one.
+// captions of the chosen options; with results, the hydraulic checks (ReportChecks.h).
+// `projectFileName` is the path of the open project file, "" for an untitled one.
 ReportContent buildReportContent(const SwaleProject &project, const QString &projectFileName);

@@ -44,12 +44,18 @@ void appendShifted(ReportPage &page, const ReportPage &items, double dy)
         page.shades.push_back(shade.translated(0, dy));
 }
 
-// Height of block `first` together with the blocks it must stay with.
-double keptHeight(const std::vector<ReportBlock> &blocks, size_t first)
+// Height of block `first` together with the blocks it must stay with. A kept block that starts
+// a run fitting on a page brings its whole run, since the run will not break: a heading then
+// moves with the group it heads instead of ending a page alone.
+double keptHeight(const std::vector<ReportBlock> &blocks, size_t first, double pageHeight)
 {
     double height = blocks[first].height;
-    for (size_t i = first; blocks[i].keepWithNext && i + 1 < blocks.size(); ++i)
-        height += blocks[i + 1].spaceBefore + blocks[i + 1].height;
+    for (size_t i = first; blocks[i].keepWithNext && i + 1 < blocks.size(); ++i) {
+        const ReportBlock &next = blocks[i + 1];
+        if (next.runHeight > 0 && next.runHeight <= pageHeight)
+            return height + next.spaceBefore + next.runHeight;
+        height += next.spaceBefore + next.height;
+    }
     return height;
 }
 
@@ -66,7 +72,7 @@ std::vector<ReportPage> paginate(const BlockList &list, double top, double botto
     for (size_t i = 0; i < list.blocks.size(); ++i) {
         const ReportBlock &block = list.blocks[i];
         const double before = empty ? 0 : block.spaceBefore;
-        double needed = keptHeight(list.blocks, i);
+        double needed = keptHeight(list.blocks, i, bottom - top);
         if (block.runHeight <= bottom - top)
             needed = std::max(needed, block.runHeight);
         if (!empty && y + before + needed > bottom) {

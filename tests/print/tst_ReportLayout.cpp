@@ -208,7 +208,7 @@ void tst_ReportLayout::contentFollowsTheChosenMethods()
     QFETCH(int, resultCount);
 
     const ReportContent content = buildReportContent(calculatedProject(method, flow), QString());
-    QCOMPARE(content.sections.size(), size_t(2));
+    QCOMPARE(content.sections.size(), size_t(3));
     QCOMPARE(content.sections[0].heading, QStringLiteral("I.  INPUT DATA"));
     QCOMPARE(content.sections[1].heading, QStringLiteral("II.  RESULTS"));
     QCOMPARE(headingsOf(content.sections[0]), inputGroups);
