@@ -1,6 +1,7 @@
 #include "frmMain.h"
 
 #include "Calculate.h"
+#include "ChecksPanel.h"
 #include "HelpImagePanel.h"
 #include "HelpViewer.h"
 #include "InputPage.h"
@@ -64,6 +65,7 @@ frmMain::frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *prin
             = std::make_unique<RecentFilesMenu>(m_menus.mnuFile_Recent, m_menus.mnuFile_Separator3);
     m_recovery = std::make_unique<RecoveryStore>(*this, prompts, m_folders);
     buildPages();
+    buildChannelPane();
     connectCommands();
     setCaption(QStringLiteral("<untitled>"));
     m_helpImage->load();
@@ -252,6 +254,7 @@ void frmMain::ClearResults()
 {
     setResultsShown(false);
     m_resultsPage->clearBoxes();
+    m_channelPane.checks->markStale();
 }
 
 // An edit of the job name, engineer or date (boxes 1 to 3) keeps the results: they do not
@@ -313,6 +316,7 @@ void frmMain::calculateCommand()
         showResults(outcome);
         break;
     }
+    showChecksOf(outcome);
 }
 
 void frmMain::showInputPage()
@@ -382,8 +386,12 @@ void frmMain::showAbout()
 
 void frmMain::showHelpTopic(int topic)
 {
-    const QString path = helpTopicPath(QString::fromStdString(m_folders.programFolder),
-                                       QStringLiteral("%1.html").arg(topic));
+    showHelpFile(QStringLiteral("%1.html").arg(topic));
+}
+
+void frmMain::showHelpFile(const QString &fileName)
+{
+    const QString path = helpTopicPath(QString::fromStdString(m_folders.programFolder), fileName);
     if (path.isEmpty())
         return;
     auto *viewer = findChild<HelpViewer *>(QString(), Qt::FindDirectChildrenOnly);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CalcContext.h"
+#include "ChannelPane.h"
 #include "GlobalData.h"
 #include "MainMenus.h"
 #include "SwaleProject.h"
@@ -59,6 +60,7 @@ public:
     HelpImagePanel *helpImage() const { return m_helpImage; }
     QPushButton *calculateButton() const { return cmdCalculate; }
     const MainMenus &menus() const { return m_menus; }
+    const ChannelPane &channelPane() const { return m_channelPane; }
     QString versionText() const { return m_versionText; }
     // Whether tab `tab`'s panel may be shown: set once the panels were sized to the tab.
     bool isPanelShown(int tab) const { return m_panelShown[static_cast<size_t>(tab)]; }
@@ -101,6 +103,8 @@ public slots:
     void exportPdfCommand();
     void showAbout();
     void showHelpTopic(int topic);
+    // Opens help topic `fileName` ("1.html") of the program's help folder; nothing when missing.
+    void showHelpFile(const QString &fileName);
 
     // Sizes the tab panels to the tab's display area `area`; an empty area keeps them hidden.
     void fitPanelsToTabArea(const QSize &area);
@@ -128,6 +132,9 @@ private:
     void relayoutPages();
     void showValidationFault(const ValidationFault &fault);
     void showResults(const CalculationOutcome &outcome);
+    // The channel pane and its checks (frmMainChecks.cpp).
+    void buildChannelPane();
+    void showChecksOf(const CalculationOutcome &outcome);
     void showInputPage();
     QWidget *tabPanel(int tab) const;
     void onTabChanged(int tab);
@@ -140,6 +147,7 @@ private:
     QString m_versionText;
 
     MainMenus m_menus;
+    ChannelPane m_channelPane;
     std::unique_ptr<RecentFilesMenu> m_recentFiles;
     std::unique_ptr<RecoveryStore> m_recovery;
     QTabWidget *SSTab1 = nullptr;

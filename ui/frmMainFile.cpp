@@ -2,6 +2,7 @@
 // with the unsaved-data question and the file-error messages.
 #include "frmMain.h"
 
+#include "ChecksPanel.h"
 #include "InputPage.h"
 #include "OptionGroup.h"
 #include "ProjectFile.h"
@@ -78,6 +79,7 @@ void frmMain::ClearProject()
     empty.channelFlowMethod = 1;
     m_inputPage->showProject(empty);
     m_resultsPage->clearBoxes();
+    m_channelPane.checks->clear();
     relayoutPages();
     setDataChanged(false);
     setResultsShown(false);

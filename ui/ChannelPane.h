@@ -1,0 +1,21 @@
+#pragma once
+
+class ChecksPanel;
+class QAction;
+class QDockWidget;
+class QMainWindow;
+class QMenu;
+
+// The channel pane: a dock on the right of the main window (object name "channelDock", title
+// "Channel") that shows the hydraulic checks beside the pages, with a "&View" menu between File
+// and Help whose checkable "&Channel Pane" shows and hides it.
+struct ChannelPane
+{
+    QDockWidget *dock = nullptr;
+    QMenu *mnuView = nullptr;
+    QAction *mnuView_ChannelPane = nullptr;
+    ChecksPanel *checks = nullptr;
+};
+
+// Builds the pane in `window`, its View menu placed before `helpMenu`.
+ChannelPane buildChannelPane(QMainWindow &window, QMenu &helpMenu);
