@@ -15,6 +15,7 @@ namespace {
 // A failing value's row: a light red behind dark text keeps the contrast for every reader.
 const QColor kFailingBackground(0xF8, 0xD0, 0xD0);
 const QColor kFailingText(0x8B, 0x00, 0x00);
+const QColor kStaleFailingBackground(0xF2, 0xEA, 0xEA);
 
 QTableWidgetItem *cell(const std::string &text, bool fails)
 {
@@ -130,6 +131,17 @@ void ChecksPanel::markStale()
         return;
     m_stale = true;
     m_table->setEnabled(false); // greys the whole table
+    // The failing rows carry their own colours: grey them too, keeping a trace of the tint.
+    const QColor greyText = palette().color(QPalette::Disabled, QPalette::Text);
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        for (int column = 0; column < ColumnCount; ++column) {
+            QTableWidgetItem *item = m_table->item(row, column);
+            if (item && item->background().style() != Qt::NoBrush) {
+                item->setBackground(kStaleFailingBackground);
+                item->setForeground(greyText);
+            }
+        }
+    }
     setStatus(QStringLiteral("Stale: the inputs changed after the last Calculate. Calculate "
                              "again to update the checks."));
 }
