@@ -1,10 +1,12 @@
 #include "ChecksPanel.h"
 #include "GlobalData.h"
+#include "HelpViewer.h"
 #include "RecordingPrompts.h"
 #include "frmMain.h"
 #include "tvrEditBox.h"
 
 #include <QDockWidget>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -99,7 +101,7 @@ void tst_ChecksPanel::failingValueIsMarkedInColourAndWords()
 }
 
 // Calculate shows the checks; an edit greys them as stale; a failed Calculate shows its reason;
-// New clears the pane.
+// the help button opens the checks' help topic; New clears the pane.
 void tst_ChecksPanel::followsTheCalculationsOfTheWindow()
 {
     frmMain window(m_prompts, m_folders);
@@ -128,6 +130,14 @@ void tst_ChecksPanel::followsTheCalculationsOfTheWindow()
     QCOMPARE(panel->table()->rowCount(), 0);
     QCOMPARE(panel->status()->text(),
              QStringLiteral("No checks: Slope of channel must be greater than zero."));
+
+    const QString help = QString::fromStdString(m_folders.programFolder) + "help/";
+    QVERIFY(QDir().mkpath(help));
+    QVERIFY(QFile::copy(QFINDTESTDATA("../../help/checks.html"), help + kChecksHelpTopic));
+    panel->helpButton()->click(); // the pane of a window never shown has no size to click in
+    const auto *viewer = window.findChild<HelpViewer *>();
+    QVERIFY(viewer && viewer->isVisible());
+    QCOMPARE(viewer->windowTitle(), QStringLiteral("Hydraulic checks - Swale Help"));
 
     m_prompts.answerMessage(MessageAnswer::No); // the unsaved-data question
     window.newCommand();
