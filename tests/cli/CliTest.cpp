@@ -134,9 +134,12 @@ TEST_F(SwaleCalcTest, ResultsOfEveryMethod)
         const CalcRun run = runCalc({ "--json", saved(project) });
         EXPECT_EQ(run.exitCode, 0) << run.out;
         EXPECT_EQ(run.out.rfind("{\"status\": \"ok\", \"results\": [", 0), 0u) << run.out;
-        EXPECT_EQ(run.out.substr(run.out.size() - 3), "]}\n");
+        const size_t open = run.out.find('[');
+        const size_t close = run.out.find(']');
+        EXPECT_EQ(run.out.substr(close, 14), "], \"checks\": {");
+        EXPECT_EQ(run.out.substr(run.out.size() - 3), "}}\n");
         size_t commas = 0;
-        for (const char c : run.out.substr(run.out.find('[')))
+        for (const char c : run.out.substr(open, close - open))
             commas += c == ',';
         EXPECT_EQ(commas, 17u) << "18 texts";
     }
