@@ -197,9 +197,9 @@ QString PrintRoutine::printPreview(const SwaleProject &project, const ReportSour
     printer.setFullPage(true);
     const ReportContent content = buildReportContent(project, source);
     const QMarginsF margins = marginsInPoints(currentMargins());
-    ReportPreviewDialog dialog(
-            printer, documentTitle(project),
-            [&content, margins](QPrinter &target) { paintReport(target, content, margins); });
+    ReportPreviewDialog dialog(printer, [&content, margins](QPrinter &target) {
+        paintReport(target, content, margins);
+    });
     QString exported;
     QObject::connect(&dialog, &ReportPreviewDialog::printRequested, &dialog,
                      [&] { printReport(project, source); });

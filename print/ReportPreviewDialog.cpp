@@ -8,14 +8,13 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-ReportPreviewDialog::ReportPreviewDialog(QPrinter &printer, const QString &title, PaintPages paint,
-                                         QWidget *parent)
+ReportPreviewDialog::ReportPreviewDialog(QPrinter &printer, PaintPages paint, QWidget *parent)
     : QDialog(parent)
     , m_preview(new QPrintPreviewWidget(&printer, this))
     , m_paint(std::move(paint))
 {
     setObjectName(QStringLiteral("printPreview"));
-    setWindowTitle(QStringLiteral("Print Preview - ") + title);
+    setWindowTitle(QStringLiteral("Print Preview"));
     m_preview->setObjectName(QStringLiteral("previewPages"));
     connect(m_preview, &QPrintPreviewWidget::paintRequested, this,
             [this](QPrinter *target) { m_paint(*target); });
@@ -40,7 +39,10 @@ ReportPreviewDialog::ReportPreviewDialog(QPrinter &printer, const QString &title
     QPushButton *exportPdf
             = buttons->addButton(QStringLiteral("Export P&DF..."), QDialogButtonBox::ActionRole);
     exportPdf->setObjectName(QStringLiteral("previewExportPdf"));
-    buttons->addButton(QDialogButtonBox::Close);
+    // Enter closes the preview; printing and exporting are asked for by name.
+    print->setAutoDefault(false);
+    exportPdf->setAutoDefault(false);
+    buttons->addButton(QDialogButtonBox::Close)->setDefault(true);
     connect(print, &QPushButton::clicked, this, &ReportPreviewDialog::printRequested);
     connect(exportPdf, &QPushButton::clicked, this, &ReportPreviewDialog::exportRequested);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -16,9 +16,8 @@ class ReportPreviewDialog : public QDialog
 
 public:
     using PaintPages = std::function<void(QPrinter &)>;
-    // Previews what `paint` draws on `printer`; `title` names the report in the window title.
-    ReportPreviewDialog(QPrinter &printer, const QString &title, PaintPages paint,
-                        QWidget *parent = nullptr);
+    // Previews what `paint` draws on `printer`.
+    ReportPreviewDialog(QPrinter &printer, PaintPages paint, QWidget *parent = nullptr);
 
     QPrintPreviewWidget *preview() const { return m_preview; }
     // Number of pages of the preview, laid out on first use.

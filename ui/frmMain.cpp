@@ -99,11 +99,13 @@ void frmMain::buildPages()
     cmdCalculate->setMinimumHeight(32);
     cmdCalculate->setIcon(QIcon(QStringLiteral(":/icons/calculate.svg")));
     cmdCalculate->setToolTip(QStringLiteral("Calculate (F9)"));
-    // F9 calculates wherever the focus is in the window, as in a spreadsheet.
+    // F9 calculates wherever the focus is in the window, as in a spreadsheet. The key belongs to
+    // the application rather than the window: without a window manager the window is not made
+    // active again after a dialog closes, yet it still receives the keys. Modal dialogs block it.
     auto *calculateKey = new QAction(this);
     calculateKey->setObjectName(QStringLiteral("calculateShortcut"));
     calculateKey->setShortcut(Qt::Key_F9);
-    calculateKey->setShortcutContext(Qt::WindowShortcut);
+    calculateKey->setShortcutContext(Qt::ApplicationShortcut);
     addAction(calculateKey);
     connect(calculateKey, &QAction::triggered, cmdCalculate, &QPushButton::click);
     m_menus.Toolbar1->addSeparator();

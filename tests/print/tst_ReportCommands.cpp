@@ -70,8 +70,6 @@ private slots:
     void previewShowsThePagesThatPrint_data();
     void previewShowsThePagesThatPrint();
     void previewExportsThroughTheExportCommand();
-    void pdfNameFollowsTheDocument_data();
-    void pdfNameFollowsTheDocument();
     void exampleIsNamedInTheReport();
 };
 
@@ -129,33 +127,6 @@ void tst_ReportCommands::previewExportsThroughTheExportCommand()
     QCOMPARE(routine.printPreview(calculatedProject(1), QString(), folder.path()), target);
     QCOMPARE(prompts.suggested, folder.filePath(QStringLiteral("Swale report.pdf")));
     QVERIFY(PdfProbe(target).pageCount() >= 1);
-}
-
-void tst_ReportCommands::pdfNameFollowsTheDocument_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("example");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("saved project: its name, its folder") << "/jobs/a/route 9.swl"
-                                                         << ""
-                                                         << "/jobs/a/route 9.pdf";
-    QTest::newRow("example: its name, the data folder")
-            << ""
-            << "/usr/share/swale/Examples/Roadside swale - required length.swl"
-            << "/docs/Roadside swale - required length.pdf";
-    QTest::newRow("untitled") << ""
-                              << ""
-                              << "/docs/Swale report.pdf";
-}
-
-void tst_ReportCommands::pdfNameFollowsTheDocument()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, example);
-    QFETCH(QString, expected);
-    const ReportSource source
-            = example.isEmpty() ? ReportSource(file) : ReportSource::example(example);
-    QCOMPARE(suggestedPdfPath(source, QStringLiteral("/docs")), expected);
 }
 
 void tst_ReportCommands::exampleIsNamedInTheReport()

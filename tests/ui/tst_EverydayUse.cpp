@@ -6,6 +6,9 @@
 
 #include <QAction>
 #include <QDir>
+#include <QFile>
+#include <QMenu>
+#include <QStatusBar>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -28,6 +31,8 @@ private slots:
     void partReadNumbersAreFlagged_data();
     void partReadNumbersAreFlagged();
     void tabWalksTheInputPageInReadingOrder();
+    void exportOfAnExampleIsNamedAfterIt();
+    void previewIsOfferedWithPrint();
 
 private:
     void openExample();
@@ -172,6 +177,41 @@ void tst_EverydayUse::tabWalksTheInputPageInReadingOrder()
                                   "optChannelFlow_1", "cmdHelp_1", "cmdHelp_2", "txtInput_23" })
         QVERIFY2(visited.contains(QLatin1String(expected)),
                  qPrintable(visited.join(QLatin1Char(' '))));
+}
+
+// An example opens untitled: its report is suggested under the example's name in the data
+// folder, and the status bar says where the report went.
+void tst_EverydayUse::exportOfAnExampleIsNamedAfterIt()
+{
+    openExample();
+    QTest::keyClick(m_window.get(), Qt::Key_F9);
+    const QString documents = QString::fromStdString(m_folders.documentsFolder);
+    const QString pdf = documents + QStringLiteral("Roadside swale - required length.pdf");
+    m_prompts.answerSave(pdf);
+    m_window->menus().mnuFile_ExportPdf->trigger();
+    const FileDialogRequest &request = m_prompts.records().constLast().request;
+    QCOMPARE(request.initialFolder, documents);
+    QCOMPARE(request.fileName, QStringLiteral("Roadside swale - required length.pdf"));
+    QVERIFY(QFile::exists(pdf));
+    QCOMPARE(m_window->statusBar()->currentMessage(), QStringLiteral("Report written to ") + pdf);
+}
+
+void tst_EverydayUse::previewIsOfferedWithPrint()
+{
+    const MainMenus &menus = m_window->menus();
+    for (bool calculated : { false, true }) {
+        if (calculated) {
+            openExample();
+            m_window->calculateButton()->click();
+        }
+        emit menus.mnuFile->aboutToShow();
+        QCOMPARE(menus.mnuFile_PrintPreview->isEnabled(), calculated);
+        QCOMPARE(menus.mnuFile_Print->isEnabled(), calculated);
+    }
+    const QList<QAction *> entries = menus.mnuFile->actions();
+    QCOMPARE(entries.indexOf(menus.mnuFile_PrintPreview),
+             entries.indexOf(menus.mnuFile_ExportPdf) + 1);
+    QCOMPARE(menus.mnuFile_PrintPreview->text(), QStringLiteral("Print Pre&view..."));
 }
 
 QTEST_MAIN(tst_EverydayUse)
