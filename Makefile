@@ -3,7 +3,7 @@
 BUILD_DIR ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: run test build deps bench clean test-sanitized
+.PHONY: run test build deps bench clean test-sanitized install package
 
 run: build
 	@scripts/run.sh $(BUILD_DIR)
@@ -26,6 +26,15 @@ test-sanitized: deps
 
 bench: build
 	$(BUILD_DIR)/bin/swale-bench --benchmark_min_time=0.2
+
+# `make install` puts the programs in $(PREFIX)/bin and their data in $(PREFIX)/share/swale
+# (DESTDIR stages it elsewhere); `make package` builds the Debian package in $(BUILD_DIR).
+PREFIX ?= /usr/local
+install: build
+	cmake --install $(BUILD_DIR) --prefix $(PREFIX)
+
+package: build
+	cd $(BUILD_DIR) && cpack -G DEB
 
 build: deps
 	@if [ ! -f $(BUILD_DIR)/build.ninja ]; then cmake -S . -B $(BUILD_DIR) -G Ninja; fi

@@ -13,7 +13,9 @@ namespace {
 class CLocaleScope
 {
 public:
-    CLocaleScope() : m_previous(uselocale(cLocale())) { }
+    CLocaleScope()
+        : m_previous(uselocale(cLocale()))
+    { }
     ~CLocaleScope() { uselocale(m_previous); }
     CLocaleScope(const CLocaleScope &) = delete;
     CLocaleScope &operator=(const CLocaleScope &) = delete;
@@ -62,6 +64,24 @@ std::string printed(const char *format, double value)
     std::snprintf(buffer, sizeof buffer, format, value);
     return buffer;
 }
+
+// Length of the leading number of the trimmed text `t`; 0 when it has no digits.
+size_t leadingNumberLength(const std::string &t)
+{
+    size_t i = 0;
+    if (i < t.size() && (t[i] == '+' || t[i] == '-'))
+        ++i;
+    size_t digits = skipDigits(t, i);
+    if (i < t.size() && t[i] == '.') {
+        ++i;
+        digits += skipDigits(t, i);
+    }
+    if (digits == 0)
+        return 0;
+    skipExponent(t, i);
+    return i;
+}
+
 } // namespace
 
 std::string trimBlanks(const std::string &text)
@@ -100,20 +120,18 @@ bool isRecognisedNumber(const std::string &text)
 double leadingNumber(const std::string &text)
 {
     const std::string t = trimBlanks(text);
-    size_t i = 0;
-    if (i < t.size() && (t[i] == '+' || t[i] == '-'))
-        ++i;
-    size_t digits = skipDigits(t, i);
-    if (i < t.size() && t[i] == '.') {
-        ++i;
-        digits += skipDigits(t, i);
-    }
-    if (digits == 0)
+    const size_t length = leadingNumberLength(t);
+    if (length == 0)
         return 0.0;
-    skipExponent(t, i);
     CLocaleScope scope;
     // strtod gives +-HUGE_VAL beyond the double range and 0 (or a subnormal) below it.
-    return std::strtod(t.substr(0, i).c_str(), nullptr);
+    return std::strtod(t.substr(0, length).c_str(), nullptr);
+}
+
+bool isReadInPart(const std::string &text)
+{
+    const std::string t = trimBlanks(text);
+    return isRecognisedNumber(t) && leadingNumberLength(t) < t.size();
 }
 
 float RoundToSingle(double value)

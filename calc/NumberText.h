@@ -18,6 +18,10 @@ bool isRecognisedNumber(const std::string &text);
 // gives 0 when there are no digits. "1,500" gives 1: recognition and value are different rules.
 double leadingNumber(const std::string &text);
 
+// True when `text` is accepted as a number but its value is only its leading part, so that the
+// box reads something else than the user sees: "1,500" is read as 1, "$5" as 0.
+bool isReadInPart(const std::string &text);
+
 // Rounds a double to single precision (round to nearest).
 float RoundToSingle(double value);
 

@@ -24,7 +24,8 @@ const std::array<OutputBoxInfo, kOutputCount + 1> kOutputBoxes = { {
         { 6, "Runoff depth, [dr]", "in", &SwaleInputData::RunoffDepth, kAllMethods },
         { 7, "Normal depth of flow, [d]", "ft", &SwaleInputData::NormalDepth, kAllMethods },
         { 8, "Top width of water surface, [Wt]", "ft", &SwaleInputData::TopWidth, kAllMethods },
-        { 9, "Cross-sectional flow area, [Ax]", "ft\u00b2", &SwaleInputData::FlowArea, kAllMethods },
+        { 9, "Cross-sectional flow area, [Ax]", "ft\u00b2", &SwaleInputData::FlowArea,
+          kAllMethods },
         { 10, "Wetted perimeter, [P]", "ft", &SwaleInputData::WettedPerimeter, kAllMethods },
         { 11, "Hydraulic radius, [Rh]", "ft", &SwaleInputData::HydraulicRadius, kAllMethods },
         { 12, "Mean veolcity, [V]", "fps", &SwaleInputData::MeanVelocity, kAllMethods },
@@ -72,6 +73,36 @@ bool isOutputFilled(int index, int solutionMethod)
     if (solutionMethod < 1 || solutionMethod > kSolutionMethodCount)
         return false;
     return (outputBox(index).methods & method(solutionMethod)) != 0;
+}
+
+bool isOutputShown(int index, int solutionMethod, int channelFlowMethod)
+{
+    const bool infiltration = solutionMethod == 1 || solutionMethod == 2;
+    const bool efficiency = infiltration || solutionMethod == 3;
+    switch (index) {
+    case 1: // length of channel
+        return infiltration;
+    case 2: // treatment efficiency
+        return efficiency;
+    case 6: // runoff depth
+        return channelFlowMethod == 1;
+    case 14: // design infiltration rate
+    case 15: // effective bottom area
+    case 18: // available soil storage
+        return infiltration;
+    case 16: // infiltration (or inlet discharge) rate at normal depth
+    case 17: // its volume
+        return efficiency;
+    default:
+        return index >= 1 && index <= 18;
+    }
+}
+
+bool isResultGroupShown(int group, int solutionMethod)
+{
+    if (group == 5) // infiltration or inlet discharge: nothing of it for method 4
+        return solutionMethod >= 1 && solutionMethod <= 3;
+    return group >= 1 && group <= 5;
 }
 
 const char *outputCaption(int index, int solutionMethod, int channelFlowMethod)

@@ -36,6 +36,12 @@ const OutputBoxInfo &outputBox(int index);
 // True when output box `index` receives a value under `solutionMethod` (else it is left empty).
 bool isOutputFilled(int index, int solutionMethod);
 
+// True when the Results page shows output box `index` (1 to 18) for the chosen options; the
+// others take no room there, and the command-line report leaves them out too.
+bool isOutputShown(int index, int solutionMethod, int channelFlowMethod);
+// True when the Results page shows the heading of result group `group` (1 to 5).
+bool isResultGroupShown(int group, int solutionMethod);
+
 // Caption of output box `index` for the chosen options: boxes 2, 4, 5, 16 and 17 change with the
 // solution method or the channel-flow method. A method of 0 (none chosen) keeps the caption of
 // the table.

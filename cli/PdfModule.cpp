@@ -3,6 +3,7 @@
 
 #include "PdfReport.h"
 
+#include "GlobalData.h"
 #include "PageMargins.h"
 #include "PrintRoutine.h"
 
@@ -35,7 +36,8 @@ swaleWriteProjectPdf(const std::string &pdfPath, const SwaleProject &project,
                      const std::string &projectPath, std::string &error)
 {
     ensureGuiApplication();
-    const QString programFolder = QCoreApplication::applicationDirPath();
+    const QString programFolder = QString::fromStdString(
+            programFolderOf(QCoreApplication::applicationDirPath().toStdString()));
     PageMargins margins;
     ReadPageMargins(QDir(programFolder).filePath(QString::fromUtf8(kMarginsFile)).toStdString(),
                     margins);

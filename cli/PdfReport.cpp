@@ -5,15 +5,20 @@
 #include <unistd.h>
 
 namespace {
-// The module lives beside the program.
+// The module lives beside the program in the build tree, and in "<prefix>/lib/swale/" when the
+// program is installed in "<prefix>/bin".
 std::string moduleFile()
 {
     char buffer[PATH_MAX];
     const ssize_t length = readlink("/proc/self/exe", buffer, sizeof buffer - 1);
     if (length <= 0)
         return kPdfModuleName;
-    std::string program(buffer, static_cast<size_t>(length));
-    return program.substr(0, program.rfind('/') + 1) + kPdfModuleName;
+    const std::string program(buffer, static_cast<size_t>(length));
+    const std::string folder = program.substr(0, program.rfind('/') + 1);
+    const std::string beside = folder + kPdfModuleName;
+    if (access(beside.c_str(), R_OK) == 0)
+        return beside;
+    return folder + "../lib/swale/" + kPdfModuleName;
 }
 } // namespace
 

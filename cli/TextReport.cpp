@@ -94,10 +94,13 @@ std::string checksBlock(const SwaleInputData &record)
 std::string resultsReport(const SwaleProject &project, const CalculationOutcome &outcome)
 {
     std::string out = headerLines(project);
+    // The rows and headings that the Results page shows for the chosen options, and no others.
     for (int group = 1; group < static_cast<int>(kOutputGroups.size()); ++group) {
+        if (!isResultGroupShown(group, project.solutionMethod))
+            continue;
         std::string lines;
         for (int box = kOutputGroups[group].first; box <= kOutputGroups[group].last; ++box) {
-            if (isOutputFilled(box, project.solutionMethod))
+            if (isOutputShown(box, project.solutionMethod, project.channelFlowMethod))
                 lines += resultLine(project, outcome, box);
         }
         if (lines.empty())

@@ -7,8 +7,8 @@
 
 // The readable output of swale-calc.
 
-// The job lines, the chosen options, then each result group with the boxes the solution method
-// fills: caption, value and unit, as on the Results page.
+// The job lines, the chosen options, then the result groups and rows that the Results page shows
+// for those options: caption, value and unit.
 std::string resultsReport(const SwaleProject &project, const CalculationOutcome &outcome);
 
 // What the window would show for a failed validation or calculation: the message(s), and for a

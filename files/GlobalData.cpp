@@ -78,6 +78,15 @@ std::string withTrailingSlash(const std::string &path)
     return path + "/";
 }
 
+std::string programFolderOf(const std::string &executableFolder)
+{
+    const QString installed
+            = QDir::cleanPath(toQString(executableFolder) + QStringLiteral("/../share/swale"));
+    if (QFileInfo(installed).isDir())
+        return withTrailingSlash(installed.toStdString());
+    return withTrailingSlash(executableFolder);
+}
+
 bool BuildGlobalData(const std::string &programFolder, GlobalData &data, FolderError &error)
 {
     std::string base;

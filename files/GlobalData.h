@@ -42,6 +42,11 @@ bool fileExists(const std::string &path);
 // Adds "/" unless `path` already ends with one.
 std::string withTrailingSlash(const std::string &path);
 
+// The program folder of a program in `executableFolder`: "<prefix>/share/swale/" when the program
+// is installed in "<prefix>/bin" beside that folder, else the executable's own folder (the build
+// tree keeps the data beside the programs). Ends with "/".
+std::string programFolderOf(const std::string &executableFolder);
+
 // Works out the folders of the run and creates the settings folders that are missing:
 // settings base + "TAVRO33/" + "Swale/". When the settings base cannot be found on disk the
 // settings folder is empty (settings files then lie in the current folder). Fails only when

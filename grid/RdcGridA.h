@@ -275,7 +275,7 @@ private:
                          int alignment, bool selected, bool bold);
     QFont headerFont(bool bold) const;
     QStringList fittedCaptionLines(const QString &caption, bool bold) const;
-    void paintBorderWith(QPainter &painter, const QRect &rect, int style, const QColor &fill);
+    void paintBorderWith(QPainter &painter, const QRect &rect, int style);
     void paintDataCellsWith(QPainter &painter);
     void paintSelectionFrame(QPainter &painter);
     void paintSelection();

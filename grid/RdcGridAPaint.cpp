@@ -243,7 +243,7 @@ void RdcGridA::paintHeaderCell(QPainter &painter, const QRect &rect, const QStri
     if (selected && paintsEnabled())
         fill = GridColors::blend(fill, color(GridColors::Highlight), 0.18);
     painter.fillRect(rect, fill);
-    paintBorderWith(painter, rect, selected ? BorderPressed : BorderRaised, fill);
+    paintBorderWith(painter, rect, selected ? BorderPressed : BorderRaised);
     painter.setPen(color(GridColors::DarkShadow3D));
     painter.drawLine(rect.topRight(), rect.bottomRight());
     painter.drawLine(rect.bottomLeft(), rect.bottomRight());
@@ -255,7 +255,9 @@ void RdcGridA::paintHeaderCell(QPainter &painter, const QRect &rect, const QStri
     const int blockHeight = static_cast<int>(lines.size()) * metrics.height();
     int y = rect.top() + roundHalfEven((rect.height() - blockHeight) / 2.0);
     painter.setClipRect(rect.adjusted(1, 1, -1, -1));
-    painter.setPen(color(paintsEnabled() ? GridColors::ButtonText : GridColors::GrayText));
+    // Captions keep the button-text colour when the grid is disabled: the headers name the
+    // columns and rows whether or not the cells take input.
+    painter.setPen(color(GridColors::ButtonText));
     for (const QString &line : lines) {
         const int x = alignedLeft(alignment, rect.left(), rect.right(),
                                   metrics.horizontalAdvance(line));
@@ -268,32 +270,31 @@ void RdcGridA::paintHeaderCell(QPainter &painter, const QRect &rect, const QStri
 void RdcGridA::PaintBorder(const QRect &rect, int style)
 {
     QPainter painter(&m_pic->canvas());
-    paintBorderWith(painter, rect, style, GridColors::toColor(m_backColor, palette()));
+    paintBorderWith(painter, rect, style);
     m_pic->update(rect);
 }
 
-void RdcGridA::paintBorderWith(QPainter &painter, const QRect &rect, int style, const QColor &fill)
+void RdcGridA::paintBorderWith(QPainter &painter, const QRect &rect, int style)
 {
     using namespace GridColors;
-    // Raised: light top-left, dark bottom-right; pressed: the same four colours reversed. The
-    // outer bottom-right line is drawn as it is, the others are softened into the header's fill,
-    // which keeps the header flat and crisp rather than bevelled.
+    // Raised: 3-D light on the outer top-left, dark shadow on the outer bottom-right, highlight
+    // and shadow on the inner pair; pressed: the same four colours in reverse order.
     const int raised[4] = { Light3D, DarkShadow3D, ButtonHighlight3D, ButtonShadow };
     const int pressed[4] = { ButtonShadow, ButtonHighlight3D, DarkShadow3D, Light3D };
     const int *colors = style == BorderPressed ? pressed : raised;
     const QRect outer = rect;
     const QRect inner = rect.adjusted(1, 1, -1, -1);
     painter.save();
-    painter.setPen(blend(fill, color(colors[0]), 0.2));
+    painter.setPen(color(colors[0]));
     painter.drawLine(outer.topLeft(), outer.topRight());
     painter.drawLine(outer.topLeft(), outer.bottomLeft());
     painter.setPen(color(colors[1]));
     painter.drawLine(outer.bottomLeft(), outer.bottomRight());
     painter.drawLine(outer.topRight(), outer.bottomRight());
-    painter.setPen(blend(fill, color(colors[2]), 0.6));
+    painter.setPen(color(colors[2]));
     painter.drawLine(inner.topLeft(), inner.topRight());
     painter.drawLine(inner.topLeft(), inner.bottomLeft());
-    painter.setPen(blend(fill, color(colors[3]), 0.25));
+    painter.setPen(color(colors[3]));
     painter.drawLine(inner.bottomLeft(), inner.bottomRight());
     painter.drawLine(inner.topRight(), inner.bottomRight());
     painter.restore();

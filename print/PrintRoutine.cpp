@@ -2,6 +2,7 @@
 
 #include "ReportContent.h"
 #include "ReportPainter.h"
+#include "ReportPreviewDialog.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,6 +33,13 @@ void applySetup(QPagedPaintDevice &device, const ReportPageSetup &setup)
                                      QPageLayout::Point, QMarginsF()));
 }
 
+void prepareForReport(QPrinter &printer, const SwaleProject &project, const ReportPageSetup &setup)
+{
+    printer.setDocName(documentTitle(project));
+    printer.setCreator(QString::fromUtf8(kReportProgramName));
+    applySetup(printer, setup);
+}
+
 } // namespace
 
 bool PrintPrompts::hasPrinter() const
@@ -45,6 +53,17 @@ bool SystemPrintDialogs::askPrinter(QPrinter &printer)
     dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     return dialog.exec() == QDialog::Accepted;
+}
+
+void PrintPrompts::showPreview(ReportPreviewDialog &dialog)
+{
+    dialog.exec();
+}
+
+void SystemPrintDialogs::showPreview(ReportPreviewDialog &dialog)
+{
+    dialog.setParent(m_parent, dialog.windowFlags());
+    dialog.exec();
 }
 
 bool SystemPrintDialogs::askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins)
@@ -63,17 +82,19 @@ QMarginsF marginsInPoints(const PageMargins &margins)
             marginInPoints(margins, margins.Margin4), marginInPoints(margins, margins.Margin3));
 }
 
-QString suggestedPdfPath(const QString &projectFilePath, const QString &dataFolder)
+QString suggestedPdfPath(const ReportSource &source, const QString &dataFolder)
 {
-    if (projectFilePath.isEmpty())
-        return QDir(dataFolder).filePath(QStringLiteral("Swale report.pdf"));
-    const QFileInfo info(projectFilePath);
-    return info.dir().filePath(info.completeBaseName() + QStringLiteral(".pdf"));
+    if (!source.filePath.isEmpty()) {
+        const QFileInfo info(source.filePath);
+        return info.dir().filePath(info.completeBaseName() + QStringLiteral(".pdf"));
+    }
+    const QString name
+            = source.exampleName.isEmpty() ? QStringLiteral("Swale report") : source.exampleName;
+    return QDir(dataFolder).filePath(name + QStringLiteral(".pdf"));
 }
 
-bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
-                    const QString &projectFilePath, const ReportPageSetup &setup,
-                    const PageMargins &margins, QString *error)
+bool writeReportPdf(const QString &pdfPath, const SwaleProject &project, const ReportSource &source,
+                    const ReportPageSetup &setup, const PageMargins &margins, QString *error)
 {
     QSaveFile file(pdfPath);
     if (!file.open(QIODevice::WriteOnly)) {
@@ -87,7 +108,7 @@ bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
         writer.setTitle(documentTitle(project));
         writer.setCreator(QString::fromUtf8(kReportProgramName));
         applySetup(writer, setup);
-        const ReportContent content = buildReportContent(project, projectFilePath);
+        const ReportContent content = buildReportContent(project, source);
         if (!paintReport(writer, content, marginsInPoints(margins), error))
             return false;
     }
@@ -118,7 +139,7 @@ PageMargins PrintRoutine::currentMargins() const
     return margins;
 }
 
-bool PrintRoutine::printReport(const SwaleProject &project, const QString &projectFilePath)
+bool PrintRoutine::printReport(const SwaleProject &project, const ReportSource &source)
 {
     const QString noPrinter = QString::fromUtf8(kNoPrinterMessage);
     if (!m_prompts.hasPrinter()) {
@@ -126,13 +147,11 @@ bool PrintRoutine::printReport(const SwaleProject &project, const QString &proje
         return false;
     }
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(documentTitle(project));
-    printer.setCreator(QString::fromUtf8(kReportProgramName));
-    applySetup(printer, m_setup);
+    prepareForReport(printer, project, m_setup);
     if (!m_prompts.askPrinter(printer))
         return false;
     printer.setFullPage(true);
-    const ReportContent content = buildReportContent(project, projectFilePath);
+    const ReportContent content = buildReportContent(project, source);
     if (!paintReport(printer, content, marginsInPoints(currentMargins()))) {
         m_prompts.ShowErrorMessage(noPrinter, kExclamationStyle, kErrorTitle);
         return false;
@@ -151,17 +170,41 @@ bool PrintRoutine::pageSetup()
     return true;
 }
 
-bool PrintRoutine::exportPdf(const SwaleProject &project, const QString &projectFilePath,
-                             const QString &dataFolder)
+bool PrintRoutine::exportPdf(const SwaleProject &project, const ReportSource &source,
+                             const QString &dataFolder, QString *writtenPath)
 {
-    const QString path = m_prompts.askPdfFileName(suggestedPdfPath(projectFilePath, dataFolder));
+    const QString path = m_prompts.askPdfFileName(suggestedPdfPath(source, dataFolder));
     if (path.isEmpty())
         return false;
-    if (!writeReportPdf(path, project, projectFilePath, m_setup, currentMargins())) {
+    if (!writeReportPdf(path, project, source, m_setup, currentMargins())) {
         m_prompts.ShowErrorMessage(QStringLiteral("Error writing to file:") + QLatin1Char('\r')
                                            + path,
                                    kExclamationStyle, kErrorTitle);
         return false;
     }
+    if (writtenPath)
+        *writtenPath = path;
     return true;
+}
+
+// The preview paints the report on its own engine, so it needs no printer; its Print and
+// Export PDF buttons run the commands of the window, with their dialogs and messages.
+QString PrintRoutine::printPreview(const SwaleProject &project, const ReportSource &source,
+                                   const QString &dataFolder)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    prepareForReport(printer, project, m_setup);
+    printer.setFullPage(true);
+    const ReportContent content = buildReportContent(project, source);
+    const QMarginsF margins = marginsInPoints(currentMargins());
+    ReportPreviewDialog dialog(printer, [&content, margins](QPrinter &target) {
+        paintReport(target, content, margins);
+    });
+    QString exported;
+    QObject::connect(&dialog, &ReportPreviewDialog::printRequested, &dialog,
+                     [&] { printReport(project, source); });
+    QObject::connect(&dialog, &ReportPreviewDialog::exportRequested, &dialog,
+                     [&] { exportPdf(project, source, dataFolder, &exported); });
+    m_prompts.showPreview(dialog);
+    return exported;
 }

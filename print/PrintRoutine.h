@@ -16,12 +16,16 @@
 //     "Error" (style 48) and prints nothing; so it does when the chosen printer cannot be opened.
 //   - Page Setup (mnuFile_PrintSetup): printRoutine.pageSetup();
 //   - Export PDF ("Export P&DF..." after Print, enabled with Print):
-//         printRoutine.exportPdf(project, currentFilePath, dataFolder);
+//         printRoutine.exportPdf(project, source, dataFolder, &writtenPath);
 //     It asks for a file name (suggesting the project's name with ".pdf") and writes the report;
 //     a file that cannot be written is reported as "Error writing to file:" + CR + path.
+//   - Print Preview ("Print Pre&view..." after Export PDF, enabled with Print):
+//         printRoutine.printPreview(project, source, dataFolder);
+//     The report's pages on the paper and margins of Page Setup, printed or exported from there
+//     through the same commands. It needs no printer.
 //   `project` is the document as the window holds it (SwaleProject: input texts as typed, chosen
-//   options, rating-curve cells, results flag and output texts); `currentFilePath` is "" for an
-//   untitled project.
+//   options, rating-curve cells, results flag and output texts); `source` names the document:
+//   the current file path ("" for an untitled project) or ReportSource::example(path).
 //
 // Margins: Margins.ini in the program folder is read at each print and export (ReadPageMargins);
 // margins chosen in Page Setup replace it for the rest of the run. Margin 1 is the left edge,
@@ -29,6 +33,7 @@
 
 #include "PageMargins.h"
 #include "PageSetupDialog.h"
+#include "ReportContent.h"
 #include "SwaleProject.h"
 
 #include <QMarginsF>
@@ -36,6 +41,7 @@
 
 class QPrinter;
 class QWidget;
+class ReportPreviewDialog;
 
 extern const char *const kNoPrinterMessage; // "Unable to establish connection with printer."
 
@@ -55,6 +61,8 @@ public:
     virtual QString askPdfFileName(const QString &suggestedPath) = 0;
     // Whether a printer is installed at all.
     virtual bool hasPrinter() const;
+    // Shows the Print Preview until the user closes it.
+    virtual void showPreview(ReportPreviewDialog &dialog);
 };
 
 // The real print and page-setup dialogs, parented to `parent`.
@@ -66,6 +74,7 @@ public:
     { }
     bool askPrinter(QPrinter &printer) override;
     bool askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins) override;
+    void showPreview(ReportPreviewDialog &dialog) override;
 
 private:
     QWidget *m_parent;
@@ -77,12 +86,16 @@ public:
     PrintRoutine(PrintPrompts &prompts, const QString &programFolder);
 
     // The Print command. True when the report went to the printer.
-    bool printReport(const SwaleProject &project, const QString &projectFilePath);
+    bool printReport(const SwaleProject &project, const ReportSource &source);
     // The Page Setup command. True when the user accepted new choices.
     bool pageSetup();
-    // The Export PDF command. True when the PDF was written.
-    bool exportPdf(const SwaleProject &project, const QString &projectFilePath,
-                   const QString &dataFolder);
+    // The Export PDF command. True when the PDF was written; its path goes to `writtenPath`.
+    bool exportPdf(const SwaleProject &project, const ReportSource &source,
+                   const QString &dataFolder, QString *writtenPath = nullptr);
+    // The Print Preview command: shows the report's pages until the user closes the preview.
+    // Returns the path of a PDF exported from there, "" when none was.
+    QString printPreview(const SwaleProject &project, const ReportSource &source,
+                         const QString &dataFolder);
 
     const ReportPageSetup &setup() const { return m_setup; }
     // The margins of the next print: those chosen in Page Setup, else Margins.ini read now.
@@ -99,13 +112,13 @@ private:
 // The record's margins in points as left, top, right, bottom.
 QMarginsF marginsInPoints(const PageMargins &margins);
 
-// The file name the Export PDF dialog suggests: the project's path with ".pdf", or "Swale
-// report.pdf" in `dataFolder` for an untitled project.
-QString suggestedPdfPath(const QString &projectFilePath, const QString &dataFolder);
+// The file name the Export PDF dialog suggests: the project's path with ".pdf"; for an example,
+// its name with ".pdf" in `dataFolder`; "Swale report.pdf" there for another untitled project.
+QString suggestedPdfPath(const ReportSource &source, const QString &dataFolder);
 
 // Writes the report of `project` to `pdfPath` on the paper of `setup` with `margins`. The file
 // is replaced only once the whole report was written. Returns false with the reason in `error`.
 // Needs a QGuiApplication (fonts).
-bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
-                    const QString &projectFilePath, const ReportPageSetup &setup,
-                    const PageMargins &margins, QString *error = nullptr);
+bool writeReportPdf(const QString &pdfPath, const SwaleProject &project, const ReportSource &source,
+                    const ReportPageSetup &setup, const PageMargins &margins,
+                    QString *error = nullptr);

@@ -7,6 +7,7 @@
 #include "RatingCurve.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 const char *const kRatingDepthTitle = "Depth";
 const char *const kRatingDepthUnit = "(inches)";
@@ -117,18 +118,6 @@ ReportSection inputSection(const SwaleProject &project)
     return section;
 }
 
-// Whether the Results page shows output box `index` under the chosen methods. Boxes the page
-// hides for a method are those the calculation leaves empty, except runoff depth, which belongs
-// to the runoff hydrograph only.
-bool isOutputShown(int index, int method, int flow)
-{
-    if (index == 6)
-        return flow == 1;
-    if (index == 13 || (index >= 3 && index <= 12))
-        return true;
-    return isOutputFilled(index, method);
-}
-
 ReportSection resultsSection(const SwaleProject &project)
 {
     const int method = project.solutionMethod;
@@ -163,7 +152,23 @@ ReportSection resultsSection(const SwaleProject &project)
 
 } // namespace
 
-ReportContent buildReportContent(const SwaleProject &project, const QString &projectFileName)
+ReportSource ReportSource::example(const QString &examplePath)
+{
+    ReportSource source;
+    source.exampleName = QFileInfo(examplePath).completeBaseName();
+    return source;
+}
+
+QString ReportSource::projectFileText() const
+{
+    if (!filePath.isEmpty())
+        return QDir::toNativeSeparators(filePath);
+    if (!exampleName.isEmpty())
+        return QStringLiteral("Example: ") + exampleName;
+    return QStringLiteral("<untitled>");
+}
+
+ReportContent buildReportContent(const SwaleProject &project, const ReportSource &source)
 {
     ReportContent content;
     content.programName = QString::fromUtf8(kReportProgramName);
@@ -173,13 +178,8 @@ ReportContent buildReportContent(const SwaleProject &project, const QString &pro
         field.numeric = false;
         content.titleFields.push_back(field);
     }
-    const QString fileText = projectFileName.isEmpty() ? QStringLiteral("<untitled>")
-                                                       : QDir::toNativeSeparators(projectFileName);
-    ReportField fileField;
-    fileField.caption = QStringLiteral("Project File");
-    fileField.value = fileText;
-    fileField.numeric = false;
-    content.titleFields.push_back(fileField);
+    const QString fileText = source.projectFileText();
+    content.titleFields.push_back({ QStringLiteral("Project File"), fileText, QString(), false, QString() });
     content.jobName = content.titleFields.front().value;
     content.projectFileName = fileText;
     content.sections.push_back(inputSection(project));

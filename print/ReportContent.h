@@ -63,9 +63,27 @@ extern const char *const kRatingDischargeTitle;
 extern const char *const kRatingDischargeUnit;
 extern const char *const kReportProgramName;
 
+// The document a report is of: its project file, or the example it was opened from (examples
+// open untitled). A plain path converts to a source naming that file; "" is an untitled project.
+struct ReportSource
+{
+    ReportSource() = default;
+    ReportSource(const QString &path) // NOLINT(google-explicit-constructor): a path names the file
+        : filePath(path)
+    { }
+    static ReportSource example(const QString &examplePath);
+
+    // The report's "Project File" line: the path, "Example: " and the example's name, or
+    // "<untitled>".
+    QString projectFileText() const;
+
+    QString filePath; // "" when untitled
+    QString exampleName; // "Roadside swale - required length" for an opened example, else ""
+};
+
 // Builds the report of `project` as the window shows it: the inputs that the chosen solution and
 // channel-flow methods ask for, under the headings of the Input Data page; the rating curve for
 // method 3; the result boxes that the Results page shows, under its group headings and with the
-// captions of the chosen options; with results, the hydraulic checks (ReportChecks.h).
-// `projectFileName` is the path of the open project file, "" for an untitled one.
-ReportContent buildReportContent(const SwaleProject &project, const QString &projectFileName);
+// captions of the chosen options; with results, the hydraulic checks (ReportChecks.h). `source`
+// names the document in the title block and the footers.
+ReportContent buildReportContent(const SwaleProject &project, const ReportSource &source);

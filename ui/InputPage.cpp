@@ -5,6 +5,7 @@
 #include "PageStyle.h"
 #include "RatingCurveGrid.h"
 #include "RdcGridA.h"
+#include "ReadingNotes.h"
 #include "tvrEditBox.h"
 
 #include <QDate>
@@ -68,6 +69,7 @@ InputPage::InputPage(QWidget *parent)
         cmdHelp[static_cast<size_t>(topic)] = help;
     }
     setTabOrderDownThePage();
+    m_readingNotes = new ReadingNotes(controls(), this);
 }
 
 // The Tab key walks the page from the top down, as the page stacks its items.
@@ -86,6 +88,11 @@ void InputPage::setTabOrderDownThePage()
     for (int i = 20; i <= 23; ++i)
         order.push_back(box(i));
     order.push_back(grdRatingCurve);
+    // The chain links the widgets that take the focus: a box's value field, the grid's surface.
+    for (QWidget *&widget : order) {
+        if (widget->focusProxy())
+            widget = widget->focusProxy();
+    }
     for (size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
@@ -130,6 +137,7 @@ void InputPage::LayoutInputPage()
 {
     PageLayout::LayoutInputPage(controls(), GetSolutionMethod(), GetChannelFlowOption(),
                                 PageUnits(fontMetrics()));
+    m_readingNotes->place();
 }
 
 void InputPage::readInto(SwaleProject &project) const

@@ -11,6 +11,7 @@ class OptionGroup;
 class QLabel;
 class QPushButton;
 class RdcGridA;
+class ReadingNotes;
 class tvrEditBox;
 
 // The content of the Input Data page (picMovingWindow(0)): the input boxes txtInput(1..23)
@@ -73,4 +74,5 @@ private:
     OptionGroup *grpChannelFlow = nullptr;
     RdcGridA *grdRatingCurve = nullptr;
     QPushButton *cmdToday = nullptr;
+    ReadingNotes *m_readingNotes = nullptr;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-template <size_t N>
+template<size_t N>
 int chosenOption(const std::array<QAbstractButton *, N> &options)
 {
     for (size_t i = 1; i < N; ++i) {
@@ -20,7 +20,7 @@ int chosenOption(const std::array<QAbstractButton *, N> &options)
 }
 
 // The index of the element of `controls` that `watched` is (or whose editor it is); 0 for none.
-template <size_t N>
+template<size_t N>
 int indexOf(const std::array<tvrEditBox *, N> &controls, const QObject *watched)
 {
     for (size_t i = 1; i < N; ++i) {
@@ -30,7 +30,7 @@ int indexOf(const std::array<tvrEditBox *, N> &controls, const QObject *watched)
     return 0;
 }
 
-template <size_t N>
+template<size_t N>
 int indexOf(const std::array<QAbstractButton *, N> &controls, const QObject *watched)
 {
     for (size_t i = 1; i < N; ++i) {
@@ -64,7 +64,9 @@ bool moveKeyOf(const QKeyEvent &event, MoveKey &key)
 
 KeyboardNavigator::KeyboardNavigator(const InputPageControls &input,
                                      const ResultsPageControls &results, QObject *parent)
-    : QObject(parent), m_input(input), m_results(results)
+    : QObject(parent)
+    , m_input(input)
+    , m_results(results)
 {
     for (size_t i = 1; i < m_input.txtInput.size(); ++i)
         m_input.txtInput[i]->editor()->installEventFilter(this);
@@ -98,6 +100,10 @@ bool KeyboardNavigator::eventFilter(QObject *watched, QEvent *event)
     QWidget *widget = widgetOf(target);
     if (!widget)
         return false;
+    // A move by key shows where the focus went, as Tab does: the window then draws the focus
+    // mark (an option button has no caret to show it otherwise). The reason stays "other" so
+    // that a box keeps its caret instead of selecting its whole text.
+    widget->window()->setAttribute(Qt::WA_KeyboardFocusChange);
     widget->setFocus(Qt::OtherFocusReason);
     return true;
 }

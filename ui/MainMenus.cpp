@@ -1,5 +1,7 @@
 #include "MainMenus.h"
 
+#include "HelpTopics.h"
+
 #include <QActionGroup>
 #include <QIcon>
 #include <QMainWindow>
@@ -56,6 +58,8 @@ void buildFileMenu(QMainWindow &window, MainMenus &menus)
     menus.mnuFile_Print = addAction(file, "mnuFile_Print", QStringLiteral("&Print"));
     menus.mnuFile_ExportPdf
             = addAction(file, "mnuFile_ExportPdf", QStringLiteral("Export P&DF..."));
+    menus.mnuFile_PrintPreview
+            = addAction(file, "mnuFile_PrintPreview", QStringLiteral("Print Pre&view..."));
     menus.mnuFile_PrintSetup = addAction(file, "mnuFile_PrintSetup", QStringLiteral("Page Set&up"));
     addSeparator(file, "mnuFile_Separator2");
     for (int i = 1; i <= 5; ++i) {
@@ -78,6 +82,13 @@ void buildHelpMenus(QMainWindow &window, MainMenus &menus)
     QMenu *help = window.menuBar()->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("mnuHelp"));
     menus.mnuHelp = help;
+    for (const HelpTopic &topic : kHelpTopics) {
+        QAction *entry = help->addAction(QString::fromUtf8(topic.title));
+        entry->setObjectName(QLatin1String("mnuHelp_Topic_") + QLatin1String(topic.file));
+        entry->setData(QString::fromUtf8(topic.file));
+        menus.helpTopics.push_back(entry);
+    }
+    addSeparator(help, "mnuHelp_TopicSeparator");
     menus.mnuHelp_Image = help->addMenu(QStringLiteral("Help Image Si&ze"));
     menus.mnuHelp_Image->setObjectName(QStringLiteral("mnuHelp_Image"));
     addSizeEntries(menus.mnuHelp_Image, "mnuHelp_Image_Size",

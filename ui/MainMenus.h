@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 class QAction;
 class QMainWindow;
@@ -19,6 +20,7 @@ struct MainMenus
     QAction *mnuFile_SaveAs = nullptr;
     QAction *mnuFile_Print = nullptr;
     QAction *mnuFile_ExportPdf = nullptr; // the report as a PDF file, offered with Print
+    QAction *mnuFile_PrintPreview = nullptr; // the report's pages on screen, offered with Print
     QAction *mnuFile_PrintSetup = nullptr;
     QAction *mnuFile_Separator3 = nullptr;
     std::array<QAction *, 6> mnuFile_Recent {}; // [0] unused: entries 1 to 5
@@ -26,6 +28,7 @@ struct MainMenus
     QAction *mnuFile_Exit = nullptr;
 
     QMenu *mnuHelp = nullptr;
+    std::vector<QAction *> helpTopics; // one entry per topic of kHelpTopics, in its order
     QMenu *mnuHelp_Image = nullptr;
     std::array<QAction *, 5> mnuHelp_Image_Size {}; // [0] unused: sizes 1 to 4
     QAction *mnuHelp_About = nullptr;

@@ -4,8 +4,13 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QTreeView>
+
+#include <algorithm>
 
 namespace {
 
@@ -49,6 +54,26 @@ QList<ButtonChoice> buttonsOf(int style)
     }
 }
 
+// Opens the dialog in its detail view, wide and tall enough that names, sizes, types and dates
+// show whole: the name column takes what the other columns leave.
+void sizeForDetails(QFileDialog &dialog)
+{
+    dialog.setViewMode(QFileDialog::Detail);
+    const QFontMetrics metrics(dialog.font());
+    // The side bar, a name of some fifty characters ("Parking lot swale - efficiency of given
+    // length.swl"), the size, the type and the date: about 150 average characters in all.
+    QSize size(150 * metrics.averageCharWidth(), 30 * metrics.height());
+    if (const QScreen *screen = dialog.screen())
+        size = size.boundedTo(screen->availableGeometry().size() * 9 / 10);
+    dialog.resize(size.expandedTo(dialog.size()));
+    if (auto *details = dialog.findChild<QTreeView *>(QStringLiteral("treeView"))) {
+        QHeaderView *header = details->header();
+        header->setStretchLastSection(false);
+        header->setSectionResizeMode(QHeaderView::ResizeToContents);
+        header->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+}
+
 QFileDialog *makeDialog(const FileDialogRequest &request, QFileDialog::AcceptMode mode)
 {
     auto *dialog = new QFileDialog(QApplication::activeWindow());
@@ -66,6 +91,7 @@ QFileDialog *makeDialog(const FileDialogRequest &request, QFileDialog::AcceptMod
         dialog->setFileMode(QFileDialog::AnyFile);
     if (!(request.flags & FileDialogRequest::OverwritePrompt))
         dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    sizeForDetails(*dialog);
     return dialog;
 }
 

@@ -1,5 +1,7 @@
 #include "PageRules.h"
 
+#include "OutputTable.h"
+
 namespace PageRules {
 namespace {
 
@@ -51,32 +53,12 @@ bool isRatingCurveShown(int solutionMethod)
 
 bool isOutputBoxShown(int index, int solutionMethod, int channelFlowMethod)
 {
-    const bool infiltration = withInfiltration(solutionMethod);
-    const bool efficiency = infiltration || solutionMethod == 3;
-    switch (index) {
-    case 1: // length of channel
-        return infiltration;
-    case 2: // treatment efficiency
-        return efficiency;
-    case 6: // runoff depth
-        return channelFlowMethod == 1;
-    case 14: // design infiltration rate
-    case 15: // effective bottom area
-    case 18: // available soil storage
-        return infiltration;
-    case 16: // infiltration (or inlet discharge) rate at normal depth
-    case 17: // its volume
-        return efficiency;
-    default:
-        return index >= 1 && index <= 18;
-    }
+    return isOutputShown(index, solutionMethod, channelFlowMethod);
 }
 
 bool isOutputHeadingShown(int group, int solutionMethod)
 {
-    if (group == 5) // infiltration or inlet discharge: nothing of it for method 4
-        return withInfiltration(solutionMethod) || solutionMethod == 3;
-    return group >= 1 && group <= 5;
+    return isResultGroupShown(group, solutionMethod);
 }
 
 } // namespace PageRules

@@ -21,13 +21,16 @@
 #include "frmAbout.h"
 #include "tvrEditBox.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDir>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QResizeEvent>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -97,6 +100,16 @@ void frmMain::buildPages()
     cmdCalculate->setObjectName(QStringLiteral("cmdCalculate"));
     cmdCalculate->setMinimumHeight(32);
     cmdCalculate->setIcon(QIcon(QStringLiteral(":/icons/calculate.svg")));
+    cmdCalculate->setToolTip(QStringLiteral("Calculate (F9)"));
+    // F9 calculates wherever the focus is in the window, as in a spreadsheet. The key belongs to
+    // the application rather than the window: without a window manager the window is not made
+    // active again after a dialog closes, yet it still receives the keys. Modal dialogs block it.
+    auto *calculateKey = new QAction(this);
+    calculateKey->setObjectName(QStringLiteral("calculateShortcut"));
+    calculateKey->setShortcut(Qt::Key_F9);
+    calculateKey->setShortcutContext(Qt::ApplicationShortcut);
+    addAction(calculateKey);
+    connect(calculateKey, &QAction::triggered, cmdCalculate, &QPushButton::click);
     m_menus.Toolbar1->addSeparator();
     m_menus.Toolbar1->addWidget(cmdCalculate);
 
@@ -188,6 +201,7 @@ void frmMain::connectCommands()
     connect(m.mnuFile_Print, &QAction::triggered, this, &frmMain::printCommand);
     connect(m.mnuFile_PrintSetup, &QAction::triggered, this, &frmMain::pageSetupCommand);
     connect(m.mnuFile_ExportPdf, &QAction::triggered, this, &frmMain::exportPdfCommand);
+    connect(m.mnuFile_PrintPreview, &QAction::triggered, this, &frmMain::printPreviewCommand);
     connect(m.mnuFile_Exit, &QAction::triggered, this, &QWidget::close);
     for (int i = 1; i <= 5; ++i) {
         connect(m.mnuFile_Recent[static_cast<size_t>(i)], &QAction::triggered, this,
@@ -197,12 +211,16 @@ void frmMain::connectCommands()
     connect(m.mnuFile, &QMenu::aboutToShow, this, [this] {
         m_menus.mnuFile_Print->setEnabled(m_resultsShown);
         m_menus.mnuFile_ExportPdf->setEnabled(m_resultsShown);
+        m_menus.mnuFile_PrintPreview->setEnabled(m_resultsShown);
     });
     connect(m.toolbarButtons[1], &QAction::triggered, m.mnuFile_New, &QAction::trigger);
     connect(m.toolbarButtons[2], &QAction::triggered, m.mnuFile_Open, &QAction::trigger);
     connect(m.toolbarButtons[3], &QAction::triggered, m.mnuFile_Save, &QAction::trigger);
     connect(m.toolbarButtons[4], &QAction::triggered, this, &frmMain::printCommand);
     connect(m.mnuHelp_About, &QAction::triggered, this, &frmMain::showAbout);
+    for (QAction *topic : m.helpTopics)
+        connect(topic, &QAction::triggered, this,
+                [this, topic] { showHelpFile(topic->data().toString()); });
 
     connect(cmdCalculate, &QPushButton::clicked, this, &frmMain::calculateCommand);
     connect(m_inputPage, &InputPage::inputEdited, this, &frmMain::onInputEdited);
@@ -359,12 +377,26 @@ void frmMain::CopyResultsToClipboard()
     clipboard->setText(QString::fromStdString(text));
 }
 
-// Print and Export PDF report the document as the window shows it; both are offered only while
-// the results belong to the inputs.
+// Print, Export PDF and Print Preview report the document as the window shows it; they are
+// offered only while the results belong to the inputs.
 void frmMain::printCommand()
 {
     if (m_resultsShown)
-        m_printRoutine->printReport(currentProject(), m_currentFilePath);
+        m_printRoutine->printReport(currentProject(), reportSource());
+}
+
+ReportSource frmMain::reportSource() const
+{
+    if (m_currentFilePath.isEmpty() && !m_examplePath.isEmpty())
+        return ReportSource::example(m_examplePath);
+    return ReportSource(m_currentFilePath);
+}
+
+void frmMain::reportPdfWritten(const QString &path)
+{
+    if (!path.isEmpty())
+        statusBar()->showMessage(QStringLiteral("Report written to ")
+                                 + QDir::toNativeSeparators(path));
 }
 
 void frmMain::pageSetupCommand()
@@ -374,8 +406,17 @@ void frmMain::pageSetupCommand()
 
 void frmMain::exportPdfCommand()
 {
+    QString written;
+    if (m_resultsShown
+        && m_printRoutine->exportPdf(currentProject(), reportSource(), GetDataFolder(), &written))
+        reportPdfWritten(written);
+}
+
+void frmMain::printPreviewCommand()
+{
     if (m_resultsShown)
-        m_printRoutine->exportPdf(currentProject(), m_currentFilePath, GetDataFolder());
+        reportPdfWritten(
+                m_printRoutine->printPreview(currentProject(), reportSource(), GetDataFolder()));
 }
 
 void frmMain::showAbout()
@@ -389,9 +430,9 @@ void frmMain::showHelpTopic(int topic)
     showHelpFile(QStringLiteral("%1.html").arg(topic));
 }
 
-void frmMain::showHelpFile(const QString &fileName)
+void frmMain::showHelpFile(const QString &file)
 {
-    const QString path = helpTopicPath(QString::fromStdString(m_folders.programFolder), fileName);
+    const QString path = helpTopicPath(QString::fromStdString(m_folders.programFolder), file);
     if (path.isEmpty())
         return;
     auto *viewer = findChild<HelpViewer *>(QString(), Qt::FindDirectChildrenOnly);

@@ -21,6 +21,7 @@ class QPushButton;
 class QTabWidget;
 class RecentFilesMenu;
 class RecoveryStore;
+struct ReportSource;
 class ResultsPage;
 class ScrollingPage;
 class ctrlPictureViewer;
@@ -101,10 +102,11 @@ public slots:
     void printCommand();
     void pageSetupCommand();
     void exportPdfCommand();
+    void printPreviewCommand();
     void showAbout();
     void showHelpTopic(int topic);
-    // Opens help topic `fileName` ("1.html") of the program's help folder; nothing when missing.
-    void showHelpFile(const QString &fileName);
+    // Opens help topic `file` ("1.html") of the help folder; nothing happens when it is missing.
+    void showHelpFile(const QString &file);
 
     // Sizes the tab panels to the tab's display area `area`; an empty area keeps them hidden.
     void fitPanelsToTabArea(const QSize &area);
@@ -135,6 +137,9 @@ private:
     // The channel pane and its checks (frmMainChecks.cpp).
     void buildChannelPane();
     void showChecksOf(const CalculationOutcome &outcome);
+    // The document the report is of: the current file, or the example opened untitled.
+    ReportSource reportSource() const;
+    void reportPdfWritten(const QString &path);
     void showInputPage();
     QWidget *tabPanel(int tab) const;
     void onTabChanged(int tab);
@@ -160,6 +165,7 @@ private:
     QPushButton *cmdCalculate = nullptr;
 
     QString m_currentFilePath; // "" for an untitled project
+    QString m_examplePath; // the example an untitled project was opened from, else ""
     QString m_currentDataFolder; // folder of the last project opened or saved
     QString m_documentName; // as the caption names it
     bool m_saveFailed = false; // the last save showed a file error

@@ -84,6 +84,7 @@ void frmMain::ClearProject()
     setDataChanged(false);
     setResultsShown(false);
     m_currentFilePath.clear();
+    m_examplePath.clear();
     setCaption(QStringLiteral("<untitled>"));
     for (ScrollingPage *page : picStaionaryWindow)
         page->scrollToOrigin();
@@ -175,6 +176,7 @@ bool frmMain::OpenDataFile(const QString &path, int mode)
         // An example opens untitled, so that a later Save asks for a new name; the caption
         // still names it.
         m_currentFilePath.clear();
+        m_examplePath = path;
         setCaption(QFileInfo(path).fileName());
     }
     setDataChanged(false);

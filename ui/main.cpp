@@ -49,7 +49,9 @@ int main(int argc, char *argv[])
     // The folders come first: without a settings base the program cannot keep its files.
     GlobalData folders;
     FolderError error;
-    if (!BuildGlobalData(QApplication::applicationDirPath().toStdString(), folders, error)) {
+    const std::string programFolder
+            = programFolderOf(QApplication::applicationDirPath().toStdString());
+    if (!BuildGlobalData(programFolder, folders, error)) {
         prompts.ShowErrorMessage(QString::fromStdString(error.description), MessageStyle::Critical,
                                  QLatin1String(kErrorTitle));
         return 1;

@@ -1,0 +1,62 @@
+#include "TextReport.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+// Result rows of the readable report are the lines indented by two blanks.
+int resultRowCount(const std::string &report)
+{
+    int rows = 0;
+    size_t start = 0;
+    while (start < report.size()) {
+        const size_t end = report.find('\n', start);
+        if (report.compare(start, 2, "  ") == 0)
+            ++rows;
+        start = end == std::string::npos ? report.size() : end + 1;
+    }
+    return rows;
+}
+
+// Rows of the Results page per mode, counted on the window: all 18 boxes for methods 1 and 2;
+// method 3 drops the length and the three soil rows; method 4 also drops the efficiency and the
+// infiltration group. A specified flow drops the runoff depth.
+struct RowsCase
+{
+    const char *name;
+    int solutionMethod, channelFlowMethod, expectedRows;
+    bool runoffDepthShown, infiltrationGroupShown;
+};
+const RowsCase kCases[] = {
+    { "required length, hydrograph", 1, 1, 18, true, true },
+    { "required length, given flow", 1, 2, 17, false, true },
+    { "efficiency of a length, given flow", 2, 2, 17, false, true },
+    { "inlet, hydrograph", 3, 1, 14, true, true },
+    { "inlet, given flow", 3, 2, 13, false, true },
+    { "no inlet, hydrograph", 4, 1, 11, true, false },
+    { "no inlet, given flow", 4, 2, 10, false, false },
+};
+
+TEST(ResultsReport, ShowsTheRowsOfTheResultsPage)
+{
+    for (const RowsCase &row : kCases) {
+        SCOPED_TRACE(row.name);
+        SwaleProject project;
+        project.solutionMethod = row.solutionMethod;
+        project.channelFlowMethod = row.channelFlowMethod;
+        CalculationOutcome outcome;
+        outcome.status = CalculationOutcome::Status::Ok;
+        for (std::string &text : outcome.results)
+            text = "1";
+        const std::string report = resultsReport(project, outcome);
+        EXPECT_EQ(resultRowCount(report), row.expectedRows) << report;
+        EXPECT_EQ(report.find("Runoff depth") != std::string::npos, row.runoffDepthShown);
+        EXPECT_EQ(report.find("Infiltration Calculations") != std::string::npos
+                          || report.find("Inlet") != std::string::npos,
+                  row.infiltrationGroupShown);
+    }
+}
+
+} // namespace
