@@ -4,6 +4,7 @@
 #include "OutputTable.h"
 
 #include <cmath>
+#include <utility>
 
 double resultValue(const SwaleInputData &data, int index)
 {
@@ -22,7 +23,7 @@ std::string resultText(double value)
 
 bool resultTexts(const SwaleInputData &data, std::array<std::string, kOutputCount + 1> &texts)
 {
-    std::array<std::string, kOutputCount + 1> written{};
+    std::array<std::string, kOutputCount + 1> written {};
     for (int i = 1; i <= kOutputCount; ++i) {
         if (!isOutputFilled(i, data.SolutionMethod))
             continue;
@@ -31,7 +32,7 @@ bool resultTexts(const SwaleInputData &data, std::array<std::string, kOutputCoun
             return false;
         written[static_cast<size_t>(i)] = resultText(value);
     }
-    texts = written;
+    texts = std::move(written);
     return true;
 }
 
@@ -39,13 +40,18 @@ std::string CopyResultsToClipboard(const std::array<std::string, kOutputCount + 
 {
     // The clipboard groups differ from the page's headings: box 12 travels with box 13.
     static const int kLastOfGroup[] = { 3, 6, 11, 13, 18 };
+    constexpr size_t kGroupCount = sizeof kLastOfGroup / sizeof kLastOfGroup[0];
+    size_t size = 2 * (kOutputCount + kGroupCount - 1); // every CR LF
+    for (int box = 1; box <= kOutputCount; ++box)
+        size += texts[static_cast<size_t>(box)].size();
     std::string clip;
+    clip.reserve(size);
     int box = 1;
     for (int last : kLastOfGroup) {
         for (; box <= last; ++box)
-            clip += texts[static_cast<size_t>(box)] + "\r\n";
+            clip.append(texts[static_cast<size_t>(box)]).append("\r\n");
         if (last != kOutputCount)
-            clip += "\r\n";
+            clip.append("\r\n");
     }
     return clip;
 }
