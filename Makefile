@@ -3,7 +3,7 @@
 BUILD_DIR ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: run test build deps bench clean test-sanitized
+.PHONY: run test build deps bench differential clean test-sanitized
 
 run: build
 	@scripts/run.sh $(BUILD_DIR)
@@ -26,6 +26,10 @@ test-sanitized: deps
 
 bench: build
 	$(BUILD_DIR)/bin/swale-bench --benchmark_min_time=0.2
+
+# The differential test of the calculation core at full size (100,000 projects, every float).
+differential: deps
+	scripts/differential.sh $(BUILD_DIR)
 
 build: deps
 	@if [ ! -f $(BUILD_DIR)/build.ninja ]; then cmake -S . -B $(BUILD_DIR) -G Ninja; fi

@@ -90,10 +90,9 @@ void compareSearch(const SwaleProject &project, const CalcSettings &settings,
     if (!ValidateInputData(project, data, fault))
         return;
     try {
-        data.PeakFlowRate
-                = data.ChannelFlowMethod == 1 ? rationalPeakFlow(data) : data.ChannelFlowRate;
+        computeInflow(data); // the inflow each method works out before its search
     } catch (const ArithmeticFault &) {
-        return; // the method fails before its search
+        return; // the method fails before its search (method 1 may still search: not compared)
     }
     SwaleInputData before = data;
     CalcContext now;
