@@ -352,10 +352,12 @@ std::string NumberToDisplayText(int32_t value)
     return std::to_string(value);
 }
 
-std::string AddLeadingZero(const std::string &text)
+std::string AddLeadingZero(std::string text)
 {
     const std::string_view t = trimmedView(text);
-    if (!t.empty() && t[0] == '.')
-        return "0" + std::string(t);
-    return std::string(t);
+    if (t.size() != text.size()) // blanks to trim: rare, the display routine writes none
+        text = std::string(t);
+    if (!text.empty() && text[0] == '.')
+        text.insert(0, 1, '0');
+    return text;
 }

@@ -54,4 +54,4 @@ std::string NumberToDisplayText(double value);
 std::string NumberToDisplayText(int32_t value);
 
 // Trims blanks and puts a "0" before a text that starts with "."; "-.5" stays as it is.
-std::string AddLeadingZero(const std::string &text);
+std::string AddLeadingZero(std::string text);

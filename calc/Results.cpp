@@ -4,6 +4,7 @@
 #include "OutputTable.h"
 
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 double resultValue(const SwaleInputData &data, int index)
@@ -44,14 +45,21 @@ std::string CopyResultsToClipboard(const std::array<std::string, kOutputCount + 
     size_t size = 2 * (kOutputCount + kGroupCount - 1); // every CR LF
     for (int box = 1; box <= kOutputCount; ++box)
         size += texts[static_cast<size_t>(box)].size();
-    std::string clip;
-    clip.reserve(size);
+    std::string clip(size, '\0');
+    char *out = clip.data();
+    const auto put = [&out](const char *text, size_t length) {
+        std::memcpy(out, text, length);
+        out += length;
+    };
     int box = 1;
     for (int last : kLastOfGroup) {
-        for (; box <= last; ++box)
-            clip.append(texts[static_cast<size_t>(box)]).append("\r\n");
+        for (; box <= last; ++box) {
+            const std::string &text = texts[static_cast<size_t>(box)];
+            put(text.data(), text.size());
+            put("\r\n", 2);
+        }
         if (last != kOutputCount)
-            clip.append("\r\n");
+            put("\r\n", 2);
     }
     return clip;
 }
