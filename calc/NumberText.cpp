@@ -67,16 +67,56 @@ std::string_view trimmedView(std::string_view text)
     return text.substr(first, last - first + 1);
 }
 
+// Plain decimals without an exponent ("0.035", "-12.5", "1500"), the usual input, are read in
+// place: when the digits make a whole number below 2^53 and there are at most 22 after the
+// point, that number and the power of ten are exact doubles, so one division rounds the value
+// correctly, exactly as strtod rounds it (Clinger's fast path). False for any other text.
+bool plainDecimalValue(std::string_view number, double &value)
+{
+    static constexpr double kExactPowersOfTen[]
+            = { 1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22 };
+    size_t i = 0;
+    const bool negative = !number.empty() && number[0] == '-';
+    if (!number.empty() && (number[0] == '-' || number[0] == '+'))
+        ++i;
+    uint64_t whole = 0;
+    int digits = 0;
+    int fractionDigits = 0;
+    bool point = false;
+    for (; i < number.size(); ++i) {
+        const char c = number[i];
+        if (c == '.' && !point) {
+            point = true;
+            continue;
+        }
+        if (!isDigit(c) || digits == 19) // an exponent, or more digits than 64 bits hold
+            return false;
+        whole = whole * 10 + static_cast<uint64_t>(c - '0');
+        ++digits;
+        fractionDigits += point ? 1 : 0;
+    }
+    if (digits == 0 || whole > (uint64_t(1) << 53) || fractionDigits > 22)
+        return false;
+    value = static_cast<double>(whole) / kExactPowersOfTen[fractionDigits];
+    if (negative)
+        value = -value;
+    return true;
+}
+
 // The value of a well-formed decimal number (sign, digits, fraction, exponent), rounded to
-// nearest as strtod rounds it. std::from_chars decides almost every text without a copy or a
-// locale; a text it does not read to the end, or a value beyond the double range (strtod then
-// gives +-HUGE_VAL, or 0 or a subnormal below it), goes to strtod itself.
+// nearest as strtod rounds it. Plain decimals are read in place; std::from_chars decides almost
+// every other text without a copy or a locale; a text it does not read to the end, or a value
+// beyond the double range (strtod then gives +-HUGE_VAL, or 0 or a subnormal below it), goes to
+// strtod itself.
 double decimalValue(std::string_view number)
 {
+    double value = 0.0;
+    if (plainDecimalValue(number, value))
+        return value;
     std::string_view unsigned_ = number;
     if (!unsigned_.empty() && unsigned_.front() == '+') // from_chars takes no plus sign
         unsigned_.remove_prefix(1);
-    double value = 0.0;
     const char *last = unsigned_.data() + unsigned_.size();
     const std::from_chars_result read = std::from_chars(unsigned_.data(), last, value);
     if (read.ec == std::errc() && read.ptr == last)
