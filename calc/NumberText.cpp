@@ -206,8 +206,8 @@ struct SevenDigits
 // The seven digits of a positive float, rounded to nearest with ties to even on the float's
 // exact binary value, as printf rounds. The float is m 2^e with m below 2^24; within the range
 // taken here, m 10^k and m 2^e fit a 64-bit integer, so the rounding is exact integer
-// arithmetic. Every float of the range was compared with printf (swale-differential
-// --all-floats); outside it the caller falls back to printf.
+// arithmetic. Every float of the range, both signs, is compared with printf by
+// scripts/differential.sh; outside the range the caller falls back to printf.
 bool sevenSignificantDigits(float magnitude, SevenDigits &out)
 {
     uint32_t bits = 0;
