@@ -3,7 +3,7 @@
 BUILD_DIR ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: run test build deps bench clean test-sanitized install package
+.PHONY: run test build deps bench differential clean test-sanitized install package
 
 run: build
 	@scripts/run.sh $(BUILD_DIR)
@@ -35,6 +35,10 @@ install: build
 
 package: build
 	cd $(BUILD_DIR) && cpack -G DEB
+
+# The differential test of the calculation core at full size (100,000 projects, every float).
+differential: deps
+	scripts/differential.sh $(BUILD_DIR)
 
 build: deps
 	@if [ ! -f $(BUILD_DIR)/build.ninja ]; then cmake -S . -B $(BUILD_DIR) -G Ninja; fi

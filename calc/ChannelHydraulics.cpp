@@ -5,15 +5,34 @@
 
 #include <cmath>
 
-SectionGeometry sectionGeometry(double d, double B, double Z1, double Z2)
+namespace {
+// Wetted length of each side per unit depth, sqrt(Z^2 + 1). They depend on the side slopes only,
+// so a search works them out once. The squares go through the general power routine, as the
+// side lengths always have: Z * Z differs from it in the last bit for some slopes.
+struct SideLengths
+{
+    double S1; // left side
+    double S2; // right side
+};
+
+SideLengths sideLengths(double Z1, double Z2)
+{
+    return { checkedSqrt(checkedPow(Z1, 2.0) + 1), checkedSqrt(checkedPow(Z2, 2.0) + 1) };
+}
+
+SectionGeometry sectionGeometry(double d, double B, double Z1, double Z2, const SideLengths &s)
 {
     SectionGeometry g;
     g.Ax = checkedFinite(Z1 * 0.5 * d * d + d * B + Z2 * 0.5 * d * d);
-    // The squares go through the general power routine, as the side lengths always have.
-    g.P = checkedFinite(checkedSqrt(checkedPow(Z1, 2.0) + 1) * d + B
-                        + checkedSqrt(checkedPow(Z2, 2.0) + 1) * d);
+    g.P = checkedFinite(s.S1 * d + B + s.S2 * d);
     g.Rh = checkedDivide(g.Ax, g.P);
     return g;
+}
+} // namespace
+
+SectionGeometry sectionGeometry(double d, double B, double Z1, double Z2)
+{
+    return sectionGeometry(d, B, Z1, Z2, sideLengths(Z1, Z2));
 }
 
 double topWidth(double d, double B, double Z1, double Z2)
@@ -28,8 +47,7 @@ double manningDischarge(double n, double Ax, double Rh, double Sc)
 }
 
 namespace {
-bool searchNormalDepth(SwaleInputData &data, const CalcSettings &settings,
-                       CalcContext &context)
+bool searchNormalDepth(SwaleInputData &data, const CalcSettings &settings, CalcContext &context)
 {
     const double B = data.BottomWidth;
     const double Z1 = data.LeftSideSlope;
@@ -42,9 +60,11 @@ bool searchNormalDepth(SwaleInputData &data, const CalcSettings &settings,
     double upperBound = 0.0;
     bool upperBoundFound = false;
     const auto maxIterations = static_cast<long>(std::nearbyint(settings.NormalDepthMaxIterations));
+    // Only a search that makes a trial meets the faults of the side lengths.
+    const SideLengths sides = maxIterations >= 1 ? sideLengths(Z1, Z2) : SideLengths {};
 
     for (long i = 1; i <= maxIterations; ++i) {
-        const SectionGeometry g = sectionGeometry(d, B, Z1, Z2);
+        const SectionGeometry g = sectionGeometry(d, B, Z1, Z2, sides);
         data.FlowArea = g.Ax;
         data.WettedPerimeter = g.P;
         data.HydraulicRadius = g.Rh;

@@ -24,13 +24,13 @@ bool readPoints(const SwaleProject &project, int count, RatingCurveTable &table,
 {
     for (int r = 1; r <= count; ++r) {
         for (int c = 1; c <= 2; ++c) {
-            const std::string text = trimBlanks(project.ratingCurveCell(r, c));
-            if (text.empty())
+            const NumberReading reading = readNumberText(project.ratingCurveCell(r, c));
+            if (reading.kind == NumberReading::Kind::Blank)
                 return fail(fault, "Missing data." + cellPlace(r, c), r, c);
-            if (!isRecognisedNumber(text))
+            if (reading.kind == NumberReading::Kind::NotNumeric)
                 return fail(fault, "Data is not numeric." + cellPlace(r, c), r, c);
             RatingCurvePoint &point = table.Points[static_cast<size_t>(r - 1)];
-            (c == 1 ? point.Depth : point.Discharge) = leadingNumber(text);
+            (c == 1 ? point.Depth : point.Discharge) = reading.value;
         }
     }
     return true;
@@ -41,8 +41,7 @@ int CountRatingCurveRows(const SwaleProject &project)
 {
     const int rows = project.ratingCurveRowCount();
     for (int r = 1; r <= rows; ++r) {
-        if (trimBlanks(project.ratingCurveCell(r, 1)).empty()
-            && trimBlanks(project.ratingCurveCell(r, 2)).empty())
+        if (isBlank(project.ratingCurveCell(r, 1)) && isBlank(project.ratingCurveCell(r, 2)))
             return r - 1;
     }
     return rows;

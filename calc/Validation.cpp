@@ -30,12 +30,12 @@ bool fail(ValidationFault &fault, const std::string &message, FaultPlace place, 
 bool readNumber(const SwaleProject &project, const NumericCheck &check, SwaleInputData &data,
                 ValidationFault &fault)
 {
-    const std::string text = trimBlanks(project.inputText[static_cast<size_t>(check.box)]);
-    if (text.empty())
+    const NumberReading reading = readNumberText(project.inputText[static_cast<size_t>(check.box)]);
+    if (reading.kind == NumberReading::Kind::Blank)
         return fail(fault, "Missing data.", FaultPlace::InputBox, check.box);
-    if (!isRecognisedNumber(text))
+    if (reading.kind == NumberReading::Kind::NotNumeric)
         return fail(fault, "Data is not numeric.", FaultPlace::InputBox, check.box);
-    const double value = leadingNumber(text);
+    const double value = reading.value;
     const bool inRange = check.bound == Bound::Positive ? value > 0 : RoundToSingle(value) >= 0;
     if (!inRange)
         return fail(fault, check.message, FaultPlace::InputBox, check.box);
@@ -56,8 +56,7 @@ bool readNumbers(const SwaleProject &project, std::initializer_list<NumericCheck
 using D = SwaleInputData;
 constexpr Bound kPositive = Bound::Positive;
 
-bool readChannelAndFlow(const SwaleProject &project, SwaleInputData &data,
-                        ValidationFault &fault)
+bool readChannelAndFlow(const SwaleProject &project, SwaleInputData &data, ValidationFault &fault)
 {
     if (data.SolutionMethod == 2
         && !readNumbers(project,
@@ -89,10 +88,9 @@ bool readChannelAndFlow(const SwaleProject &project, SwaleInputData &data,
                     kPositive },
                   { 12, &D::RainfallIntensity, "Rainfall intensity must be greater than zero.",
                     kPositive },
-                  { 13, &D::StormDuration, "Storm duration must be greater than zero.",
-                    kPositive },
-                  { 14, &D::TimeOfConcentration,
-                    "Time of concentration must be greater than zero.", kPositive } },
+                  { 13, &D::StormDuration, "Storm duration must be greater than zero.", kPositive },
+                  { 14, &D::TimeOfConcentration, "Time of concentration must be greater than zero.",
+                    kPositive } },
                 data, fault);
     return readNumbers(
             project,
@@ -106,14 +104,13 @@ bool readLiningAndSoil(const SwaleProject &project, SwaleInputData &data, Valida
 {
     data.LiningType = trimBlanks(project.inputText[17]);
     // The test admits a roughness of 0, although the message asks for more than zero.
-    if (!readNumbers(
-                project,
-                { { 18, &D::PermissibleVelocity, "Permissible velocity must be greater than zero.",
-                    kPositive },
-                  { 19, &D::RoughnessCoefficient,
-                    "Roughness Coefficient must be greater than zero.",
-                    Bound::NonNegativeSingle } },
-                data, fault))
+    if (!readNumbers(project,
+                     { { 18, &D::PermissibleVelocity,
+                         "Permissible velocity must be greater than zero.", kPositive },
+                       { 19, &D::RoughnessCoefficient,
+                         "Roughness Coefficient must be greater than zero.",
+                         Bound::NonNegativeSingle } },
+                     data, fault))
         return false;
     if (data.SolutionMethod != 1 && data.SolutionMethod != 2)
         return true;

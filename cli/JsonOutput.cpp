@@ -1,6 +1,7 @@
 #include "JsonOutput.h"
 
 #include "HydraulicChecks.h"
+#include "NumberText.h"
 
 #include <cstdio>
 
@@ -21,11 +22,11 @@ std::string jsonFault(const ValidationFault &fault)
     std::string out = "{\"status\": \"invalid\", \"message\": " + jsonString(fault.message);
     switch (fault.place) {
     case FaultPlace::InputBox:
-        out += ", \"input\": " + std::to_string(fault.input);
+        out += ", \"input\": " + NumberToDisplayText(static_cast<int32_t>(fault.input));
         break;
     case FaultPlace::GridCell:
-        out += ", \"row\": " + std::to_string(fault.row)
-                + ", \"col\": " + std::to_string(fault.col);
+        out += ", \"row\": " + NumberToDisplayText(static_cast<int32_t>(fault.row))
+                + ", \"col\": " + NumberToDisplayText(static_cast<int32_t>(fault.col));
         break;
     case FaultPlace::None:
         break;

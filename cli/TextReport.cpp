@@ -2,6 +2,7 @@
 
 #include "HydraulicCheckLines.h"
 #include "InputTable.h"
+#include "NumberText.h"
 #include "OutputTable.h"
 
 namespace {
@@ -118,11 +119,12 @@ std::string faultReport(const CalculationOutcome &outcome)
         const ValidationFault &fault = outcome.fault;
         std::string out = "Error: " + fault.message + "\n";
         if (fault.place == FaultPlace::InputBox)
-            out += "  in input box " + std::to_string(fault.input) + ", \""
-                    + inputBox(fault.input).caption + "\"\n";
+            out += "  in input box " + NumberToDisplayText(static_cast<int32_t>(fault.input))
+                    + ", \"" + inputBox(fault.input).caption + "\"\n";
         else if (fault.place == FaultPlace::GridCell)
-            out += "  in the rating curve, row " + std::to_string(fault.row) + ", column "
-                    + std::to_string(fault.col) + "\n";
+            out += "  in the rating curve, row "
+                    + NumberToDisplayText(static_cast<int32_t>(fault.row)) + ", column "
+                    + NumberToDisplayText(static_cast<int32_t>(fault.col)) + "\n";
         return out;
     }
     std::string out;

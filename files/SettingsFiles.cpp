@@ -36,16 +36,10 @@ std::string upperCase(std::string text)
 // which rounds to nearest with halves going to the even neighbour (9000.5 -> 9000, 9001.5 -> 9002).
 std::optional<int> settingsNumber(const std::string &text)
 {
-    if (!isRecognisedNumber(text))
+    const std::optional<double> number = recognisedNumberValue(text);
+    if (!number || !std::isfinite(*number))
         return std::nullopt;
-    std::string digits;
-    for (char c : trimBlanks(text)) {
-        if (c != ',' && c != '$')
-            digits += c;
-    }
-    const double value = std::strtod(digits.c_str(), nullptr);
-    if (!std::isfinite(value))
-        return std::nullopt;
+    const double value = *number;
     const int savedMode = std::fegetround();
     std::fesetround(FE_TONEAREST);
     const double rounded = std::nearbyint(value);
