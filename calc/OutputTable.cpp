@@ -24,7 +24,8 @@ const std::array<OutputBoxInfo, kOutputCount + 1> kOutputBoxes = { {
         { 6, "Runoff depth, [dr]", "in", &SwaleInputData::RunoffDepth, kAllMethods },
         { 7, "Normal depth of flow, [d]", "ft", &SwaleInputData::NormalDepth, kAllMethods },
         { 8, "Top width of water surface, [Wt]", "ft", &SwaleInputData::TopWidth, kAllMethods },
-        { 9, "Cross-sectional flow area, [Ax]", "ft\u00b2", &SwaleInputData::FlowArea, kAllMethods },
+        { 9, "Cross-sectional flow area, [Ax]", "ft\u00b2", &SwaleInputData::FlowArea,
+          kAllMethods },
         { 10, "Wetted perimeter, [P]", "ft", &SwaleInputData::WettedPerimeter, kAllMethods },
         { 11, "Hydraulic radius, [Rh]", "ft", &SwaleInputData::HydraulicRadius, kAllMethods },
         { 12, "Mean veolcity, [V]", "fps", &SwaleInputData::MeanVelocity, kAllMethods },
@@ -84,16 +85,21 @@ const char *outputCaption(int index, int solutionMethod, int channelFlowMethod)
             break;
         return inlet ? "Treatment/interception efficiency, [e]" : "Treatment efficiency, [e]";
     case 4:
-        return givenFlow ? "Channel inflow rate, [Qp]" : "Peak runoff rate, [Qp]";
+        if (givenFlow)
+            return "Channel inflow rate, [Qp]";
+        break;
     case 5:
-        return givenFlow ? "Inflow volume (treatment volume), [Vr]"
-                         : "Volume of runoff (treatment volume), [Vr]";
-    case 16: // "dicharge" is the caption's own spelling
-        return inlet ? "Potential dicharge rate at normal depth, [Qip]"
-                     : "Infiltration rate at normal depth, [Qip]";
+        if (givenFlow)
+            return "Inflow volume (treatment volume), [Vr]";
+        break;
+    case 16:
+        if (inlet)
+            return "Potential dicharge rate at normal depth, [Qip]"; // the caption's own spelling
+        break;
     case 17:
-        return inlet ? "Computed max discharge volume, [Vm]"
-                     : "Computed max infiltration volume, [Vm]";
+        if (inlet)
+            return "Computed max discharge volume, [Vm]";
+        break;
     default:
         break;
     }

@@ -1,6 +1,7 @@
 #include "RatingCurve.h"
 
 #include "NumberText.h"
+#include "UserTexts.h"
 
 namespace {
 std::string cellPlace(int row, int col)
@@ -26,9 +27,9 @@ bool readPoints(const SwaleProject &project, int count, RatingCurveTable &table,
         for (int c = 1; c <= 2; ++c) {
             const std::string text = trimBlanks(project.ratingCurveCell(r, c));
             if (text.empty())
-                return fail(fault, "Missing data." + cellPlace(r, c), r, c);
+                return fail(fault, kMissingDataMessage + cellPlace(r, c), r, c);
             if (!isRecognisedNumber(text))
-                return fail(fault, "Data is not numeric." + cellPlace(r, c), r, c);
+                return fail(fault, kNotNumericMessage + cellPlace(r, c), r, c);
             RatingCurvePoint &point = table.Points[static_cast<size_t>(r - 1)];
             (c == 1 ? point.Depth : point.Discharge) = leadingNumber(text);
         }

@@ -2,6 +2,7 @@
 
 #include "NumberText.h"
 #include "RatingCurve.h"
+#include "UserTexts.h"
 
 namespace {
 // How a box's value is compared with zero. Bottom width and roughness may be zero, and they are
@@ -32,9 +33,9 @@ bool readNumber(const SwaleProject &project, const NumericCheck &check, SwaleInp
 {
     const std::string text = trimBlanks(project.inputText[static_cast<size_t>(check.box)]);
     if (text.empty())
-        return fail(fault, "Missing data.", FaultPlace::InputBox, check.box);
+        return fail(fault, kMissingDataMessage, FaultPlace::InputBox, check.box);
     if (!isRecognisedNumber(text))
-        return fail(fault, "Data is not numeric.", FaultPlace::InputBox, check.box);
+        return fail(fault, kNotNumericMessage, FaultPlace::InputBox, check.box);
     const double value = leadingNumber(text);
     const bool inRange = check.bound == Bound::Positive ? value > 0 : RoundToSingle(value) >= 0;
     if (!inRange)
@@ -56,8 +57,7 @@ bool readNumbers(const SwaleProject &project, std::initializer_list<NumericCheck
 using D = SwaleInputData;
 constexpr Bound kPositive = Bound::Positive;
 
-bool readChannelAndFlow(const SwaleProject &project, SwaleInputData &data,
-                        ValidationFault &fault)
+bool readChannelAndFlow(const SwaleProject &project, SwaleInputData &data, ValidationFault &fault)
 {
     if (data.SolutionMethod == 2
         && !readNumbers(project,
@@ -89,10 +89,9 @@ bool readChannelAndFlow(const SwaleProject &project, SwaleInputData &data,
                     kPositive },
                   { 12, &D::RainfallIntensity, "Rainfall intensity must be greater than zero.",
                     kPositive },
-                  { 13, &D::StormDuration, "Storm duration must be greater than zero.",
-                    kPositive },
-                  { 14, &D::TimeOfConcentration,
-                    "Time of concentration must be greater than zero.", kPositive } },
+                  { 13, &D::StormDuration, "Storm duration must be greater than zero.", kPositive },
+                  { 14, &D::TimeOfConcentration, "Time of concentration must be greater than zero.",
+                    kPositive } },
                 data, fault);
     return readNumbers(
             project,
@@ -106,14 +105,13 @@ bool readLiningAndSoil(const SwaleProject &project, SwaleInputData &data, Valida
 {
     data.LiningType = trimBlanks(project.inputText[17]);
     // The test admits a roughness of 0, although the message asks for more than zero.
-    if (!readNumbers(
-                project,
-                { { 18, &D::PermissibleVelocity, "Permissible velocity must be greater than zero.",
-                    kPositive },
-                  { 19, &D::RoughnessCoefficient,
-                    "Roughness Coefficient must be greater than zero.",
-                    Bound::NonNegativeSingle } },
-                data, fault))
+    if (!readNumbers(project,
+                     { { 18, &D::PermissibleVelocity,
+                         "Permissible velocity must be greater than zero.", kPositive },
+                       { 19, &D::RoughnessCoefficient,
+                         "Roughness Coefficient must be greater than zero.",
+                         Bound::NonNegativeSingle } },
+                     data, fault))
         return false;
     if (data.SolutionMethod != 1 && data.SolutionMethod != 2)
         return true;

@@ -2,6 +2,7 @@
 
 #include "ReportContent.h"
 #include "ReportPainter.h"
+#include "UserTexts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -16,13 +17,10 @@ const char *const kNoPrinterMessage = "Unable to establish connection with print
 
 namespace {
 
-constexpr int kExclamationStyle = 48;
-const QString kErrorTitle = QStringLiteral("Error");
-
 QString documentTitle(const SwaleProject &project)
 {
     const QString job = QString::fromStdString(project.inputText[1]).trimmed();
-    const QString program = QString::fromUtf8(kReportProgramName);
+    const QString program = QString::fromUtf8(kProgramTitle);
     return job.isEmpty() ? program : program + QStringLiteral(" - ") + job;
 }
 
@@ -85,7 +83,7 @@ bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
         QPdfWriter writer(&file);
         writer.setResolution(1200);
         writer.setTitle(documentTitle(project));
-        writer.setCreator(QString::fromUtf8(kReportProgramName));
+        writer.setCreator(QString::fromUtf8(kProgramTitle));
         applySetup(writer, setup);
         const ReportContent content = buildReportContent(project, projectFilePath);
         if (!paintReport(writer, content, marginsInPoints(margins), error))
@@ -122,19 +120,21 @@ bool PrintRoutine::printReport(const SwaleProject &project, const QString &proje
 {
     const QString noPrinter = QString::fromUtf8(kNoPrinterMessage);
     if (!m_prompts.hasPrinter()) {
-        m_prompts.ShowErrorMessage(noPrinter, kExclamationStyle, kErrorTitle);
+        m_prompts.ShowErrorMessage(noPrinter, MessageStyle::Exclamation,
+                                   QLatin1String(kErrorTitle));
         return false;
     }
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(documentTitle(project));
-    printer.setCreator(QString::fromUtf8(kReportProgramName));
+    printer.setCreator(QString::fromUtf8(kProgramTitle));
     applySetup(printer, m_setup);
     if (!m_prompts.askPrinter(printer))
         return false;
     printer.setFullPage(true);
     const ReportContent content = buildReportContent(project, projectFilePath);
     if (!paintReport(printer, content, marginsInPoints(currentMargins()))) {
-        m_prompts.ShowErrorMessage(noPrinter, kExclamationStyle, kErrorTitle);
+        m_prompts.ShowErrorMessage(noPrinter, MessageStyle::Exclamation,
+                                   QLatin1String(kErrorTitle));
         return false;
     }
     return true;
@@ -158,9 +158,9 @@ bool PrintRoutine::exportPdf(const SwaleProject &project, const QString &project
     if (path.isEmpty())
         return false;
     if (!writeReportPdf(path, project, projectFilePath, m_setup, currentMargins())) {
-        m_prompts.ShowErrorMessage(QStringLiteral("Error writing to file:") + QLatin1Char('\r')
+        m_prompts.ShowErrorMessage(QLatin1String(kErrorWritingToFileMessage) + QLatin1Char('\r')
                                            + path,
-                                   kExclamationStyle, kErrorTitle);
+                                   MessageStyle::Exclamation, QLatin1String(kErrorTitle));
         return false;
     }
     return true;

@@ -5,14 +5,9 @@
 #include "NumberText.h"
 #include "OutputTable.h"
 #include "RatingCurve.h"
+#include "UserTexts.h"
 
 #include <QDir>
-
-const char *const kRatingDepthTitle = "Depth";
-const char *const kRatingDepthUnit = "(inches)";
-const char *const kRatingDischargeTitle = "Discharge Rate";
-const char *const kRatingDischargeUnit = "(cfs)";
-const char *const kReportProgramName = "TAVRO Channel and Overland Flow Analysis";
 
 namespace {
 
@@ -166,7 +161,7 @@ ReportSection resultsSection(const SwaleProject &project)
 ReportContent buildReportContent(const SwaleProject &project, const QString &projectFileName)
 {
     ReportContent content;
-    content.programName = QString::fromUtf8(kReportProgramName);
+    content.programName = QString::fromUtf8(kProgramTitle);
     content.subtitle = QStringLiteral("Channel Design Calculations");
     for (int index = 1; index <= 3; ++index) {
         ReportField field = inputField(project, index);

@@ -56,13 +56,6 @@ struct ReportContent
     std::vector<ReportSection> sections;
 };
 
-// Column titles of the rating-curve table; the window's grid shows the same two titles.
-extern const char *const kRatingDepthTitle;
-extern const char *const kRatingDepthUnit;
-extern const char *const kRatingDischargeTitle;
-extern const char *const kRatingDischargeUnit;
-extern const char *const kReportProgramName;
-
 // Builds the report of `project` as the window shows it: the inputs that the chosen solution and
 // channel-flow methods ask for, under the headings of the Input Data page; the rating curve for
 // method 3; the result boxes that the Results page shows, under its group headings and with the

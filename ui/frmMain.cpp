@@ -33,9 +33,6 @@
 #include <QTimer>
 #include <QToolBar>
 
-const char *const kProgramTitle = "TAVRO Channel and Overland Flow Analysis";
-const char *const kErrorTitle = "Error";
-
 namespace {
 constexpr int kInputTab = 0;
 constexpr int kResultsTab = 1;
