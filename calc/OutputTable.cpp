@@ -115,16 +115,21 @@ const char *outputCaption(int index, int solutionMethod, int channelFlowMethod)
             break;
         return inlet ? "Treatment/interception efficiency, [e]" : "Treatment efficiency, [e]";
     case 4:
-        return givenFlow ? "Channel inflow rate, [Qp]" : "Peak runoff rate, [Qp]";
+        if (givenFlow)
+            return "Channel inflow rate, [Qp]";
+        break;
     case 5:
-        return givenFlow ? "Inflow volume (treatment volume), [Vr]"
-                         : "Volume of runoff (treatment volume), [Vr]";
-    case 16: // "dicharge" is the caption's own spelling
-        return inlet ? "Potential dicharge rate at normal depth, [Qip]"
-                     : "Infiltration rate at normal depth, [Qip]";
+        if (givenFlow)
+            return "Inflow volume (treatment volume), [Vr]";
+        break;
+    case 16:
+        if (inlet)
+            return "Potential dicharge rate at normal depth, [Qip]"; // the caption's own spelling
+        break;
     case 17:
-        return inlet ? "Computed max discharge volume, [Vm]"
-                     : "Computed max infiltration volume, [Vm]";
+        if (inlet)
+            return "Computed max discharge volume, [Vm]";
+        break;
     default:
         break;
     }

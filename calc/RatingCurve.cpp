@@ -1,6 +1,7 @@
 #include "RatingCurve.h"
 
 #include "NumberText.h"
+#include "UserTexts.h"
 
 namespace {
 std::string cellPlace(int row, int col)
@@ -26,9 +27,9 @@ bool readPoints(const SwaleProject &project, int count, RatingCurveTable &table,
         for (int c = 1; c <= 2; ++c) {
             const NumberReading reading = readNumberText(project.ratingCurveCell(r, c));
             if (reading.kind == NumberReading::Kind::Blank)
-                return fail(fault, "Missing data." + cellPlace(r, c), r, c);
+                return fail(fault, kMissingDataMessage + cellPlace(r, c), r, c);
             if (reading.kind == NumberReading::Kind::NotNumeric)
-                return fail(fault, "Data is not numeric." + cellPlace(r, c), r, c);
+                return fail(fault, kNotNumericMessage + cellPlace(r, c), r, c);
             RatingCurvePoint &point = table.Points[static_cast<size_t>(r - 1)];
             (c == 1 ? point.Depth : point.Discharge) = reading.value;
         }

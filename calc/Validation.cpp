@@ -2,6 +2,7 @@
 
 #include "NumberText.h"
 #include "RatingCurve.h"
+#include "UserTexts.h"
 
 namespace {
 // How a box's value is compared with zero. Bottom width and roughness may be zero, and they are
@@ -32,9 +33,9 @@ bool readNumber(const SwaleProject &project, const NumericCheck &check, SwaleInp
 {
     const NumberReading reading = readNumberText(project.inputText[static_cast<size_t>(check.box)]);
     if (reading.kind == NumberReading::Kind::Blank)
-        return fail(fault, "Missing data.", FaultPlace::InputBox, check.box);
+        return fail(fault, kMissingDataMessage, FaultPlace::InputBox, check.box);
     if (reading.kind == NumberReading::Kind::NotNumeric)
-        return fail(fault, "Data is not numeric.", FaultPlace::InputBox, check.box);
+        return fail(fault, kNotNumericMessage, FaultPlace::InputBox, check.box);
     const double value = reading.value;
     const bool inRange = check.bound == Bound::Positive ? value > 0 : RoundToSingle(value) >= 0;
     if (!inRange)

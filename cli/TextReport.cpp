@@ -4,6 +4,7 @@
 #include "InputTable.h"
 #include "NumberText.h"
 #include "OutputTable.h"
+#include "UserTexts.h"
 
 namespace {
 constexpr size_t kCaptionWidth = 52;
@@ -113,11 +114,16 @@ std::string resultsReport(const SwaleProject &project, const CalculationOutcome 
     return out + checksBlock(outcome.record);
 }
 
+std::string errorLine(const std::string &message)
+{
+    return std::string(kErrorTitle) + ": " + message + "\n";
+}
+
 std::string faultReport(const CalculationOutcome &outcome)
 {
     if (outcome.status == CalculationOutcome::Status::Invalid) {
         const ValidationFault &fault = outcome.fault;
-        std::string out = "Error: " + fault.message + "\n";
+        std::string out = errorLine(fault.message);
         if (fault.place == FaultPlace::InputBox)
             out += "  in input box " + NumberToDisplayText(static_cast<int32_t>(fault.input))
                     + ", \"" + inputBox(fault.input).caption + "\"\n";
@@ -130,9 +136,9 @@ std::string faultReport(const CalculationOutcome &outcome)
     std::string out;
     for (const std::string &message : outcome.failureMessages) {
         if (!message.empty())
-            out += "Error: " + message + "\n";
+            out += errorLine(message);
     }
     if (out.empty())
-        out = "Error: the calculation failed without a message\n";
+        out = errorLine("the calculation failed without a message");
     return out;
 }

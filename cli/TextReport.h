@@ -14,3 +14,6 @@ std::string resultsReport(const SwaleProject &project, const CalculationOutcome 
 // What the window would show for a failed validation or calculation: the message(s), and for a
 // validation fault the box or rating-curve cell that would receive the focus.
 std::string faultReport(const CalculationOutcome &outcome);
+
+// One error line of the readable output: "Error: " + `message` + a line feed.
+std::string errorLine(const std::string &message);

@@ -7,6 +7,7 @@
 #include "TextReport.h"
 
 #include "Calculate.h"
+#include "UserTexts.h"
 
 #include <iostream>
 
@@ -41,12 +42,12 @@ int main(int argc, char *argv[])
     SwaleProject project;
     const ProjectFileResult load = loadProject(commandLine.projectPath, project);
     if (!load.ok) {
-        const std::string message =
-                "Unable to open file: " + commandLine.projectPath + " (" + load.error + ")";
+        const std::string message = std::string(kUnableToOpenFileMessage) + " "
+                + commandLine.projectPath + " (" + load.error + ")";
         if (commandLine.json)
             std::cout << jsonUnreadable(message);
         else
-            std::cerr << "Error: " << message << "\n";
+            std::cerr << errorLine(message);
         return ExitFileNotLoaded;
     }
 

@@ -23,14 +23,7 @@ bool RecentFileList::load(const std::string &path)
 
 bool RecentFileList::save(const std::string &path) const
 {
-    DataFile file;
-    if (!file.OpenForWrite(path))
-        return false;
-    for (const std::string &entryPath : m_paths) {
-        if (!file.WriteLine(entryPath))
-            return false;
-    }
-    return file.Close();
+    return WriteSettingsFile(path, m_paths);
 }
 
 void RecentFileList::add(const std::string &path)

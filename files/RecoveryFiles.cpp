@@ -74,10 +74,10 @@ bool makeFolder(const std::string &folder, RecoveryWriteResult &failure)
 
 bool writeInfo(const std::string &path, const AutosaveInfo &info)
 {
-    DataFile file;
-    return file.OpenForWrite(path) && file.WriteLine(std::string(kNameKey) + "=" + info.name)
-            && file.WriteLine(std::string(kOriginalKey) + "=" + info.originalPath)
-            && file.WriteLine(std::string(kSavedKey) + "=" + info.savedAt) && file.Close();
+    return WriteSettingsFile(path,
+                             { std::string(kNameKey) + "=" + info.name,
+                               std::string(kOriginalKey) + "=" + info.originalPath,
+                               std::string(kSavedKey) + "=" + info.savedAt });
 }
 
 // A missing or damaged info file leaves the name "untitled", no original file, and the time

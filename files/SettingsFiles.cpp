@@ -56,7 +56,9 @@ void take(const KeyValues &values, const char *key, std::optional<int> &field)
         field = found->second;
 }
 
-bool writeLines(const std::string &path, const std::initializer_list<std::string> &lines)
+} // namespace
+
+bool WriteSettingsFile(const std::string &path, const std::vector<std::string> &lines)
 {
     DataFile file;
     if (!file.OpenForWrite(path))
@@ -67,8 +69,6 @@ bool writeLines(const std::string &path, const std::initializer_list<std::string
     }
     return file.Close();
 }
-
-} // namespace
 
 bool OpenSettingsFile(DataFile &file, const std::string &path)
 {
@@ -124,10 +124,11 @@ bool WriteWindowState(const std::string &path, WindowShowState state, int top, i
 {
     const std::string stateLine = "State=" + std::to_string(static_cast<int>(state));
     if (state != WindowShowState::Normal)
-        return writeLines(path, { stateLine });
-    return writeLines(path,
-                      { stateLine, "Top=" + std::to_string(top), "Left=" + std::to_string(left),
-                        "Height=" + std::to_string(height), "Width=" + std::to_string(width) });
+        return WriteSettingsFile(path, { stateLine });
+    return WriteSettingsFile(path,
+                             { stateLine, "Top=" + std::to_string(top),
+                               "Left=" + std::to_string(left), "Height=" + std::to_string(height),
+                               "Width=" + std::to_string(width) });
 }
 
 HelpImageFiles ReadHelpImageFolders(const std::string &programFolder)
@@ -167,5 +168,5 @@ int ReadDefHelpImage(const std::string &settingsFolder)
 
 bool WriteDefHelpImage(const std::string &settingsFolder, int size)
 {
-    return writeLines(settingsFolder + kDefHelpImageFile, { std::to_string(size) });
+    return WriteSettingsFile(settingsFolder + kDefHelpImageFile, { std::to_string(size) });
 }

@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 // The small settings files of the program, read and written through DataFile. None of them is
 // required: a missing or damaged file leaves the defaults and shows no message.
@@ -27,6 +28,9 @@ constexpr long long kMaxSettingsFileSize = 64 * 1024;
 // Opens `path` for reading as a settings file; false, leaving the caller's defaults, when it is
 // missing, unreadable, not a plain file or larger than kMaxSettingsFileSize.
 bool OpenSettingsFile(DataFile &file, const std::string &path);
+// Writes `lines` as the whole of the settings file `path`, replacing it only once every line
+// was written; false, leaving the old file, when it could not be written.
+bool WriteSettingsFile(const std::string &path, const std::vector<std::string> &lines);
 
 // Sizes in these files are in twips, 15 to the pixel.
 constexpr int kTwipsPerPixel = 15;

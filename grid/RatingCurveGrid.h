@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PropertyBag.h"
+#include "UserTexts.h"
 
 #include <QString>
 
@@ -10,8 +11,10 @@ class RdcGridA;
 // point a row.
 
 // Column headers, each on two lines.
-inline const QString kRatingCurveDepthHeader = QStringLiteral("Depth\r\n(inches)");
-inline const QString kRatingCurveDischargeHeader = QStringLiteral("Discharge Rate\r\n(cfs)");
+inline const QString kRatingCurveDepthHeader = QLatin1String(kRatingDepthTitle)
+        + QStringLiteral("\r\n") + QLatin1String(kRatingDepthUnit);
+inline const QString kRatingCurveDischargeHeader = QLatin1String(kRatingDischargeTitle)
+        + QStringLiteral("\r\n") + QLatin1String(kRatingDischargeUnit);
 
 // The saved design of the rating-curve grid: editable, 2 columns, 50 rows, no title bar, header
 // and data rows 21 pixels high, row labels centred.

@@ -81,9 +81,10 @@ RdcGridA::RdcGridA(QWidget *parent)
         bar->setFocusPolicy(Qt::NoFocus);
         bar->hide();
     }
-    connect(m_hsc, &QScrollBar::valueChanged, this,
-            [this](int col) { setFirstVisibleColumn(col); });
-    connect(m_vsc, &QScrollBar::valueChanged, this, [this](int row) { setFirstVisibleRow(row); });
+    for (const Axis axis : { Axis::Rows, Axis::Columns }) {
+        connect(scrollBar(axis), &QScrollBar::valueChanged, this,
+                [this, axis](int first) { setFirstVisible(axis, first); });
+    }
 
     m_txt = new GridCellEditor(this, m_pic);
     m_txt->setObjectName(QStringLiteral("txt"));
@@ -282,8 +283,8 @@ void RdcGridA::Clear()
         m_cells = BoundedArray2D<QString>();
         m_cellsAllocated = false;
     }
-    setFirstVisibleRow(1);
-    setFirstVisibleColumn(1);
+    setFirstVisible(Axis::Rows, 1);
+    setFirstVisible(Axis::Columns, 1);
     SetCurrentCell(1, 1);
     if (Shown() && IsCellVisible(m_currentRow, m_currentCol) != FullyVisible)
         MakeCellVisible(m_currentRow, m_currentCol);
@@ -293,8 +294,8 @@ void RdcGridA::Clear()
 
 void RdcGridA::Home()
 {
-    setFirstVisibleRow(1);
-    setFirstVisibleColumn(1);
+    setFirstVisible(Axis::Rows, 1);
+    setFirstVisible(Axis::Columns, 1);
     SetCurrentCell(1, 1);
 }
 

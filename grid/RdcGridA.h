@@ -239,6 +239,9 @@ private:
 
     enum class SelectionKind { Cells, Rows, Columns, All };
     enum class EditEnd { Commit, Discard };
+    // The grid's two directions: rows run down the surface, columns across it. What both do
+    // alike (visibility, scrolling, header selection, automatic scrolling) takes the axis.
+    enum class Axis { Rows, Columns };
 
     // Store helpers (RdcGridA.cpp)
     static QString withoutBlanks(const QString &text); // blanks (spaces) only, both ends
@@ -253,16 +256,27 @@ private:
     int widthOf(int col) const;
     int columnLeft(int col) const; // left edge of a visible column, or -1
     int rowTop(int row) const; // top edge of a visible row, or -1
-    int rowVisibility(int row) const;
-    int columnVisibility(int col) const;
+    int count(Axis axis) const { return axis == Axis::Rows ? m_rows : m_cols; }
+    int firstVisible(Axis axis) const;
+    QScrollBar *scrollBar(Axis axis) const;
+    int cellStart(Axis axis, int index) const; // rowTop or columnLeft
+    int cellExtent(Axis axis, int index) const; // a row's height or a column's width
+    int dataZoneEnd(Axis axis) const; // last pixel of the data area: bottom or right
+    int visibility(Axis axis, int index) const; // NotVisible, FullyVisible or PartlyVisible
     int fullyVisibleRowCount() const;
+    int maxFirstVisible(Axis axis) const;
     int maxFirstVisibleRow() const;
     int maxFirstVisibleColumn() const;
+    // The first visible row (column) that shows `index` whole at the bottom (right) edge.
+    int firstVisibleEndingAt(Axis axis, int index) const;
+    // The last row (column) shown whole, at least the first visible one.
+    int lastFullyVisible(Axis axis) const;
     int rowAt(int y) const; // row under a surface y, clamped to the visible rows
     int columnAt(int x) const; // column under a surface x, clamped to the visible columns
     int columnBorderAt(int x, int y) const; // column whose header border is under the point, or 0
-    void setFirstVisibleRow(int row);
-    void setFirstVisibleColumn(int col);
+    void setFirstVisible(Axis axis, int first);
+    // Scrolls along `axis` until row (column) `index` is fully visible.
+    void showWhole(Axis axis, int index);
     bool paintsEnabled() const;
     QColor color(int systemColorIndex) const;
     int cellMode(int row, int col) const;
@@ -287,6 +301,7 @@ private:
     void moveCurrentCell(int rowStep, int colStep);
     void extendSelection(int rowStep, int colStep);
     void moveEndCorner(int row, int col);
+    void moveEndCornerAlong(Axis axis, int index); // the other coordinate stays
     void moveByPage(int direction, bool extend);
     void walkWithEnter();
     void jumpHome(bool extend);
@@ -306,8 +321,12 @@ private:
     void surfaceWheel(QWheelEvent *event);
     void surfaceFocusChanged(bool focusIn, Qt::FocusReason reason);
     void loseFocusColours();
+    void selectLine(Axis axis, int index, bool extend); // a press on a row or column header
     void dragTo(const QPoint &position);
     void autoScrollTick();
+    // -1 when the drag left the surface before its first row (column), 1 past its last, else 0.
+    int dragDirection(Axis axis) const;
+    void autoScroll(Axis axis, int direction);
     void startColumnResize(int col, int x);
     void moveResizeGuide(int x);
     void finishColumnResize(int x);

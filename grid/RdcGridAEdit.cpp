@@ -164,6 +164,14 @@ void RdcGridA::moveEndCorner(int row, int col)
     paintSelection();
 }
 
+void RdcGridA::moveEndCornerAlong(Axis axis, int index)
+{
+    if (axis == Axis::Rows)
+        moveEndCorner(index, m_endCol);
+    else
+        moveEndCorner(m_endRow, index);
+}
+
 void RdcGridA::moveByPage(int direction, bool extend)
 {
     // A page is the number of rows that the surface shows whole.
@@ -173,7 +181,7 @@ void RdcGridA::moveByPage(int direction, bool extend)
         return;
     if (direction > 0 && first >= maxFirstVisibleRow())
         return;
-    setFirstVisibleRow(first + direction * page);
+    setFirstVisible(Axis::Rows, first + direction * page);
     const int from = extend ? m_endRow : m_currentRow;
     const int row = std::clamp(from + direction * page, 1, std::max(1, m_rows));
     if (extend)
@@ -354,24 +362,8 @@ void RdcGridA::loseFocusColours()
 
 void RdcGridA::MakeCellVisible(int row, int col)
 {
-    if (row >= 1 && row <= m_rows && rowVisibility(row) != FullyVisible) {
-        if (row < m_firstVisibleRow)
-            setFirstVisibleRow(row);
-        else
-            setFirstVisibleRow(row - std::max(1, fullyVisibleRowCount()) + 1);
-    }
-    if (col >= 1 && col <= m_cols && columnVisibility(col) != FullyVisible) {
-        if (col < m_firstVisibleCol) {
-            setFirstVisibleColumn(col);
-        } else {
-            const int space = m_dataZone.right() - widthOf(0) + 1;
-            int first = col;
-            int used = widthOf(col);
-            while (first > 1 && used + widthOf(first - 1) <= space)
-                used += widthOf(--first);
-            setFirstVisibleColumn(first);
-        }
-    }
+    showWhole(Axis::Rows, row);
+    showWhole(Axis::Columns, col);
 }
 
 void RdcGridA::CopySelection()

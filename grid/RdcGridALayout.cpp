@@ -50,20 +50,18 @@ void RdcGridA::ProportionGrid()
     m_rowHeaderZone = QRect(QPoint(0, m_headerRowHeight), QPoint(headerWidth, bottom));
     m_dataZone = QRect(QPoint(headerWidth, m_headerRowHeight), QPoint(right, bottom));
 
-    if (!horizontal)
-        m_firstVisibleCol = 1;
-    if (!vertical)
-        m_firstVisibleRow = 1;
-    m_firstVisibleRow = std::clamp(m_firstVisibleRow, 1, maxFirstVisibleRow());
-    m_firstVisibleCol = std::clamp(m_firstVisibleCol, 1, maxFirstVisibleColumn());
-    const QSignalBlocker blockRows(m_vsc);
-    const QSignalBlocker blockColumns(m_hsc);
-    m_vsc->setRange(1, maxFirstVisibleRow());
-    m_vsc->setPageStep(std::max(1, fullyVisibleRowCount()));
-    m_vsc->setValue(m_firstVisibleRow);
-    m_hsc->setRange(1, maxFirstVisibleColumn());
-    m_hsc->setPageStep(1);
-    m_hsc->setValue(m_firstVisibleCol);
+    // Without its bar a direction shows from its first row (column); a page step of the
+    // vertical bar is the rows shown whole, of the horizontal bar one column.
+    for (const Axis axis : { Axis::Rows, Axis::Columns }) {
+        const bool barShown = axis == Axis::Rows ? vertical : horizontal;
+        int &first = axis == Axis::Rows ? m_firstVisibleRow : m_firstVisibleCol;
+        first = std::clamp(barShown ? first : 1, 1, maxFirstVisible(axis));
+        QScrollBar *bar = scrollBar(axis);
+        const QSignalBlocker block(bar);
+        bar->setRange(1, maxFirstVisible(axis));
+        bar->setPageStep(axis == Axis::Rows ? std::max(1, fullyVisibleRowCount()) : 1);
+        bar->setValue(first);
+    }
     if (m_editing)
         placeEditor();
 }
@@ -101,32 +99,47 @@ QRect RdcGridA::GetColumnHeaderRectangle(int col) const
     return QRect(QPoint(left, 0), QPoint(left + widthOf(col) - 1, m_headerRowHeight - 1));
 }
 
-int RdcGridA::rowVisibility(int row) const
+int RdcGridA::firstVisible(Axis axis) const
 {
-    if (row < m_firstVisibleRow || row < 1 || row > m_rows)
-        return NotVisible;
-    const int top = rowTop(row);
-    if (top > m_dataZone.bottom())
-        return NotVisible;
-    return top + m_dataRowHeight - 1 <= m_dataZone.bottom() ? FullyVisible : PartlyVisible;
+    return axis == Axis::Rows ? m_firstVisibleRow : m_firstVisibleCol;
 }
 
-int RdcGridA::columnVisibility(int col) const
+QScrollBar *RdcGridA::scrollBar(Axis axis) const
 {
-    if (col < m_firstVisibleCol || col < 1 || col > m_cols)
+    return axis == Axis::Rows ? m_vsc : m_hsc;
+}
+
+int RdcGridA::cellStart(Axis axis, int index) const
+{
+    return axis == Axis::Rows ? rowTop(index) : columnLeft(index);
+}
+
+int RdcGridA::cellExtent(Axis axis, int index) const
+{
+    return axis == Axis::Rows ? m_dataRowHeight : widthOf(index);
+}
+
+int RdcGridA::dataZoneEnd(Axis axis) const
+{
+    return axis == Axis::Rows ? m_dataZone.bottom() : m_dataZone.right();
+}
+
+int RdcGridA::visibility(Axis axis, int index) const
+{
+    if (index < firstVisible(axis) || index < 1 || index > count(axis))
         return NotVisible;
-    const int left = columnLeft(col);
-    if (left > m_dataZone.right())
+    const int start = cellStart(axis, index);
+    if (start > dataZoneEnd(axis))
         return NotVisible;
-    return left + widthOf(col) - 1 <= m_dataZone.right() ? FullyVisible : PartlyVisible;
+    return start + cellExtent(axis, index) - 1 <= dataZoneEnd(axis) ? FullyVisible : PartlyVisible;
 }
 
 int RdcGridA::IsCellVisible(int row, int col) const
 {
-    const int rowCode = rowVisibility(row);
+    const int rowCode = visibility(Axis::Rows, row);
     if (rowCode == NotVisible)
         return NotVisible;
-    const int colCode = columnVisibility(col);
+    const int colCode = visibility(Axis::Columns, col);
     if (colCode == NotVisible)
         return NotVisible;
     return rowCode == FullyVisible && colCode == FullyVisible ? FullyVisible : PartlyVisible;
@@ -137,6 +150,11 @@ int RdcGridA::fullyVisibleRowCount() const
     if (m_dataRowHeight <= 0)
         return m_rows;
     return std::max(0, (m_dataZone.bottom() - m_headerRowHeight + 1) / m_dataRowHeight);
+}
+
+int RdcGridA::maxFirstVisible(Axis axis) const
+{
+    return axis == Axis::Rows ? maxFirstVisibleRow() : maxFirstVisibleColumn();
 }
 
 int RdcGridA::maxFirstVisibleRow() const
@@ -155,6 +173,27 @@ int RdcGridA::maxFirstVisibleColumn() const
     }
     // first is now the column that did not fit; at least the last column gets a place.
     return std::clamp(first + 1, 1, std::max(1, m_cols));
+}
+
+// Rows are all as high, so the count of whole rows gives the first; columns are counted back
+// from `index` while their widths fit.
+int RdcGridA::firstVisibleEndingAt(Axis axis, int index) const
+{
+    if (axis == Axis::Rows)
+        return index - std::max(1, fullyVisibleRowCount()) + 1;
+    const int space = m_dataZone.right() - widthOf(0) + 1;
+    int first = index;
+    int used = widthOf(index);
+    while (first > 1 && used + widthOf(first - 1) <= space)
+        used += widthOf(--first);
+    return first;
+}
+
+int RdcGridA::lastFullyVisible(Axis axis) const
+{
+    if (axis == Axis::Rows)
+        return m_firstVisibleRow + std::max(1, fullyVisibleRowCount()) - 1;
+    return std::max(m_firstVisibleCol, LastFullyVisibleColumn());
 }
 
 int RdcGridA::LastFullyVisibleColumn() const
@@ -228,30 +267,24 @@ int RdcGridA::columnBorderAt(int x, int y) const
     return 0;
 }
 
-void RdcGridA::setFirstVisibleRow(int row)
+void RdcGridA::setFirstVisible(Axis axis, int first)
 {
-    row = std::clamp(row, 1, maxFirstVisibleRow());
-    if (m_editing && !m_endingEdit && row != m_firstVisibleRow)
+    first = std::clamp(first, 1, maxFirstVisible(axis));
+    if (m_editing && !m_endingEdit && first != firstVisible(axis))
         endEdit(EditEnd::Commit);
-    m_firstVisibleRow = row;
+    (axis == Axis::Rows ? m_firstVisibleRow : m_firstVisibleCol) = first;
     {
-        const QSignalBlocker block(m_vsc);
-        m_vsc->setValue(row);
+        const QSignalBlocker block(scrollBar(axis));
+        scrollBar(axis)->setValue(first);
     }
     paintSurface();
 }
 
-void RdcGridA::setFirstVisibleColumn(int col)
+void RdcGridA::showWhole(Axis axis, int index)
 {
-    col = std::clamp(col, 1, maxFirstVisibleColumn());
-    if (m_editing && !m_endingEdit && col != m_firstVisibleCol)
-        endEdit(EditEnd::Commit);
-    m_firstVisibleCol = col;
-    {
-        const QSignalBlocker block(m_hsc);
-        m_hsc->setValue(col);
-    }
-    paintSurface();
+    if (index < 1 || index > count(axis) || visibility(axis, index) == FullyVisible)
+        return;
+    setFirstVisible(axis, index < firstVisible(axis) ? index : firstVisibleEndingAt(axis, index));
 }
 
 QStringList RdcGridA::textLines(const QString &text)

@@ -32,34 +32,12 @@ void RdcGridA::surfaceMousePress(QMouseEvent *event)
     case ZoneCorner:
         selectAll();
         break;
-    case ZoneColumnHeader: {
-        const int col = columnAt(point.x());
-        if (!extend || m_selectionKind != SelectionKind::Columns) {
-            m_anchorRow = 1;
-            m_anchorCol = col;
-            m_currentRow = m_firstVisibleRow;
-            m_currentCol = col;
-        }
-        m_selectionKind = SelectionKind::Columns;
-        m_endRow = m_rows;
-        m_endCol = col;
-        paintSelection();
+    case ZoneColumnHeader:
+        selectLine(Axis::Columns, columnAt(point.x()), extend);
         break;
-    }
-    case ZoneRowHeader: {
-        const int row = rowAt(point.y());
-        if (!extend || m_selectionKind != SelectionKind::Rows) {
-            m_anchorRow = row;
-            m_anchorCol = 1;
-            m_currentRow = row;
-            m_currentCol = m_firstVisibleCol;
-        }
-        m_selectionKind = SelectionKind::Rows;
-        m_endRow = row;
-        m_endCol = m_cols;
-        paintSelection();
+    case ZoneRowHeader:
+        selectLine(Axis::Rows, rowAt(point.y()), extend);
         break;
-    }
     case ZoneDataCell: {
         const int row = rowAt(point.y());
         const int col = columnAt(point.x());
@@ -77,6 +55,27 @@ void RdcGridA::surfaceMousePress(QMouseEvent *event)
         m_dragging = false;
         break;
     }
+}
+
+// A header press selects the whole row (column): from the first to the last cell across it.
+// Shift on a header of the same kind stretches the selection from its anchor line; otherwise the
+// line becomes the anchor and its first visible cell the current one.
+void RdcGridA::selectLine(Axis axis, int index, bool extend)
+{
+    const bool rows = axis == Axis::Rows;
+    const SelectionKind kind = rows ? SelectionKind::Rows : SelectionKind::Columns;
+    const Axis across = rows ? Axis::Columns : Axis::Rows;
+    const auto place = [rows](int &row, int &col, int along, int acrossIndex) {
+        (rows ? row : col) = along;
+        (rows ? col : row) = acrossIndex;
+    };
+    if (!extend || m_selectionKind != kind) {
+        place(m_anchorRow, m_anchorCol, index, 1);
+        place(m_currentRow, m_currentCol, index, firstVisible(across));
+    }
+    m_selectionKind = kind;
+    place(m_endRow, m_endCol, index, count(across));
+    paintSelection();
 }
 
 void RdcGridA::surfaceMouseMove(QMouseEvent *event)
@@ -114,9 +113,9 @@ void RdcGridA::surfaceWheel(QWheelEvent *event)
     // One notch of the wheel scrolls three rows, as list views do.
     const QPoint steps = event->angleDelta() / 120;
     if (steps.y() != 0)
-        setFirstVisibleRow(m_firstVisibleRow - 3 * steps.y());
+        setFirstVisible(Axis::Rows, m_firstVisibleRow - 3 * steps.y());
     if (steps.x() != 0)
-        setFirstVisibleColumn(m_firstVisibleCol - steps.x());
+        setFirstVisible(Axis::Columns, m_firstVisibleCol - steps.x());
     event->accept();
 }
 
@@ -145,27 +144,36 @@ void RdcGridA::autoScrollTick()
         m_timer1->stop();
         return;
     }
-    const bool movesRows
-            = m_selectionKind == SelectionKind::Cells || m_selectionKind == SelectionKind::Rows;
-    const bool movesColumns
-            = m_selectionKind == SelectionKind::Cells || m_selectionKind == SelectionKind::Columns;
-    const int quadrant = GetRowNumQuadrant(m_lastDragPoint.y());
-    if (movesRows && quadrant == QuadrantAbove && m_firstVisibleRow >= 2) {
-        setFirstVisibleRow(m_firstVisibleRow - 1);
-        moveEndCorner(m_firstVisibleRow, m_endCol);
-    } else if (movesRows && quadrant == QuadrantBelow) {
-        const int lastVisible = m_firstVisibleRow + std::max(1, fullyVisibleRowCount()) - 1;
-        if (lastVisible < m_rows) {
-            setFirstVisibleRow(m_firstVisibleRow + 1);
-            moveEndCorner(std::min(m_rows, lastVisible + 1), m_endCol);
-        }
+    // A selection of whole rows grows only up and down, one of whole columns only sideways.
+    for (const Axis axis : { Axis::Rows, Axis::Columns }) {
+        const SelectionKind lines
+                = axis == Axis::Rows ? SelectionKind::Rows : SelectionKind::Columns;
+        if (m_selectionKind == SelectionKind::Cells || m_selectionKind == lines)
+            autoScroll(axis, dragDirection(axis));
     }
-    if (movesColumns && m_lastDragPoint.x() < 0 && m_firstVisibleCol >= 2) {
-        setFirstVisibleColumn(m_firstVisibleCol - 1);
-        moveEndCorner(m_endRow, m_firstVisibleCol);
-    } else if (movesColumns && m_lastDragPoint.x() > m_pic->width() - 1) {
-        setFirstVisibleColumn(m_firstVisibleCol + 1);
-        moveEndCorner(m_endRow, std::max(m_firstVisibleCol, LastFullyVisibleColumn()));
+}
+
+int RdcGridA::dragDirection(Axis axis) const
+{
+    if (axis == Axis::Rows) {
+        const int quadrant = GetRowNumQuadrant(m_lastDragPoint.y());
+        return quadrant == QuadrantAbove ? -1 : quadrant == QuadrantBelow ? 1 : 0;
+    }
+    if (m_lastDragPoint.x() < 0)
+        return -1;
+    return m_lastDragPoint.x() > m_pic->width() - 1 ? 1 : 0;
+}
+
+// One tick scrolls one row (column) towards the pointer, while there is one to scroll to, and
+// takes the selection's end corner to the row (column) that came into view.
+void RdcGridA::autoScroll(Axis axis, int direction)
+{
+    if (direction < 0 && firstVisible(axis) >= 2) {
+        setFirstVisible(axis, firstVisible(axis) - 1);
+        moveEndCornerAlong(axis, firstVisible(axis));
+    } else if (direction > 0 && lastFullyVisible(axis) < count(axis)) {
+        setFirstVisible(axis, firstVisible(axis) + 1);
+        moveEndCornerAlong(axis, lastFullyVisible(axis));
     }
 }
 

@@ -106,8 +106,8 @@ void RdcGridA::paintDataCellsWith(QPainter &painter)
                                               color(GridColors::ButtonShadow), 0.45);
         painter.fillRect(block.intersected(m_dataZone), line);
     }
-    for (int row = m_firstVisibleRow; rowVisibility(row) != NotVisible; ++row) {
-        for (int col = m_firstVisibleCol; columnVisibility(col) != NotVisible; ++col)
+    for (int row = m_firstVisibleRow; visibility(Axis::Rows, row) != NotVisible; ++row) {
+        for (int col = m_firstVisibleCol; visibility(Axis::Columns, col) != NotVisible; ++col)
             paintCellWith(painter, row, col, cellMode(row, col));
     }
     paintSelectionFrame(painter);
@@ -183,7 +183,7 @@ void RdcGridA::paintCorner(QPainter &painter)
 void RdcGridA::paintColumnHeaders(QPainter &painter)
 {
     const SelectionRange range = GetSelectionRange();
-    for (int col = m_firstVisibleCol; columnVisibility(col) != NotVisible; ++col) {
+    for (int col = m_firstVisibleCol; visibility(Axis::Columns, col) != NotVisible; ++col) {
         const bool selected = col >= range.leftCol && col <= range.rightCol;
         paintHeaderCell(painter, GetColumnHeaderRectangle(col), headerCaptionLines(col),
                         AlignCentre, selected, m_boldColumnHeaders);
@@ -193,7 +193,7 @@ void RdcGridA::paintColumnHeaders(QPainter &painter)
 void RdcGridA::paintRowHeadersWith(QPainter &painter)
 {
     const SelectionRange range = GetSelectionRange();
-    for (int row = m_firstVisibleRow; rowVisibility(row) != NotVisible; ++row) {
+    for (int row = m_firstVisibleRow; visibility(Axis::Rows, row) != NotVisible; ++row) {
         const QRect rect(QPoint(0, rowTop(row)),
                          QPoint(widthOf(0) - 1, rowTop(row) + m_dataRowHeight - 1));
         const bool selected = row >= range.topRow && row <= range.bottomRow;

@@ -3,6 +3,7 @@
 #include "ReportContent.h"
 #include "ReportPainter.h"
 #include "ReportPreviewDialog.h"
+#include "UserTexts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,13 +18,10 @@ const char *const kNoPrinterMessage = "Unable to establish connection with print
 
 namespace {
 
-constexpr int kExclamationStyle = 48;
-const QString kErrorTitle = QStringLiteral("Error");
-
 QString documentTitle(const SwaleProject &project)
 {
     const QString job = QString::fromStdString(project.inputText[1]).trimmed();
-    const QString program = QString::fromUtf8(kReportProgramName);
+    const QString program = QString::fromUtf8(kProgramTitle);
     return job.isEmpty() ? program : program + QStringLiteral(" - ") + job;
 }
 
@@ -36,7 +34,7 @@ void applySetup(QPagedPaintDevice &device, const ReportPageSetup &setup)
 void prepareForReport(QPrinter &printer, const SwaleProject &project, const ReportPageSetup &setup)
 {
     printer.setDocName(documentTitle(project));
-    printer.setCreator(QString::fromUtf8(kReportProgramName));
+    printer.setCreator(QString::fromUtf8(kProgramTitle));
     applySetup(printer, setup);
 }
 
@@ -106,7 +104,7 @@ bool writeReportPdf(const QString &pdfPath, const SwaleProject &project, const R
         QPdfWriter writer(&file);
         writer.setResolution(1200);
         writer.setTitle(documentTitle(project));
-        writer.setCreator(QString::fromUtf8(kReportProgramName));
+        writer.setCreator(QString::fromUtf8(kProgramTitle));
         applySetup(writer, setup);
         const ReportContent content = buildReportContent(project, source);
         if (!paintReport(writer, content, marginsInPoints(margins), error))
@@ -143,7 +141,8 @@ bool PrintRoutine::printReport(const SwaleProject &project, const ReportSource &
 {
     const QString noPrinter = QString::fromUtf8(kNoPrinterMessage);
     if (!m_prompts.hasPrinter()) {
-        m_prompts.ShowErrorMessage(noPrinter, kExclamationStyle, kErrorTitle);
+        m_prompts.ShowErrorMessage(noPrinter, MessageStyle::Exclamation,
+                                   QLatin1String(kErrorTitle));
         return false;
     }
     QPrinter printer(QPrinter::HighResolution);
@@ -153,7 +152,8 @@ bool PrintRoutine::printReport(const SwaleProject &project, const ReportSource &
     printer.setFullPage(true);
     const ReportContent content = buildReportContent(project, source);
     if (!paintReport(printer, content, marginsInPoints(currentMargins()))) {
-        m_prompts.ShowErrorMessage(noPrinter, kExclamationStyle, kErrorTitle);
+        m_prompts.ShowErrorMessage(noPrinter, MessageStyle::Exclamation,
+                                   QLatin1String(kErrorTitle));
         return false;
     }
     return true;
@@ -177,9 +177,9 @@ bool PrintRoutine::exportPdf(const SwaleProject &project, const ReportSource &so
     if (path.isEmpty())
         return false;
     if (!writeReportPdf(path, project, source, m_setup, currentMargins())) {
-        m_prompts.ShowErrorMessage(QStringLiteral("Error writing to file:") + QLatin1Char('\r')
+        m_prompts.ShowErrorMessage(QLatin1String(kErrorWritingToFileMessage) + QLatin1Char('\r')
                                            + path,
-                                   kExclamationStyle, kErrorTitle);
+                                   MessageStyle::Exclamation, QLatin1String(kErrorTitle));
         return false;
     }
     if (writtenPath)

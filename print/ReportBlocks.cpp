@@ -1,5 +1,7 @@
 #include "ReportBlocks.h"
 
+#include "UserTexts.h"
+
 #include <algorithm>
 
 namespace {

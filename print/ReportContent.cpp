@@ -5,15 +5,10 @@
 #include "NumberText.h"
 #include "OutputTable.h"
 #include "RatingCurve.h"
+#include "UserTexts.h"
 
 #include <QDir>
 #include <QFileInfo>
-
-const char *const kRatingDepthTitle = "Depth";
-const char *const kRatingDepthUnit = "(inches)";
-const char *const kRatingDischargeTitle = "Discharge Rate";
-const char *const kRatingDischargeUnit = "(cfs)";
-const char *const kReportProgramName = "TAVRO Channel and Overland Flow Analysis";
 
 namespace {
 
@@ -171,7 +166,7 @@ QString ReportSource::projectFileText() const
 ReportContent buildReportContent(const SwaleProject &project, const ReportSource &source)
 {
     ReportContent content;
-    content.programName = QString::fromUtf8(kReportProgramName);
+    content.programName = QString::fromUtf8(kProgramTitle);
     content.subtitle = QStringLiteral("Channel Design Calculations");
     for (int index = 1; index <= 3; ++index) {
         ReportField field = inputField(project, index);

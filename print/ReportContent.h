@@ -56,13 +56,6 @@ struct ReportContent
     std::vector<ReportSection> sections;
 };
 
-// Column titles of the rating-curve table; the window's grid shows the same two titles.
-extern const char *const kRatingDepthTitle;
-extern const char *const kRatingDepthUnit;
-extern const char *const kRatingDischargeTitle;
-extern const char *const kRatingDischargeUnit;
-extern const char *const kReportProgramName;
-
 // The document a report is of: its project file, or the example it was opened from (examples
 // open untitled). A plain path converts to a source naming that file; "" is an untitled project.
 struct ReportSource

@@ -6,12 +6,16 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+namespace {
+const char *const kHelpWindowTitle = "Swale Help";
+}
+
 HelpViewer::HelpViewer(QWidget *parent)
     : QDialog(parent)
     , m_browser(new QTextBrowser(this))
 {
     setObjectName(QStringLiteral("HelpViewer"));
-    setWindowTitle(QStringLiteral("Swale Help"));
+    setWindowTitle(QLatin1String(kHelpWindowTitle));
     m_browser->setObjectName(QStringLiteral("helpBrowser"));
     m_browser->setOpenExternalLinks(true);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
@@ -25,9 +29,9 @@ HelpViewer::HelpViewer(QWidget *parent)
 void HelpViewer::showTopic(const QString &topicPath)
 {
     m_browser->setSource(QUrl::fromLocalFile(topicPath));
-    setWindowTitle(m_browser->documentTitle().isEmpty()
-                           ? QStringLiteral("Swale Help")
-                           : m_browser->documentTitle() + QStringLiteral(" - Swale Help"));
+    setWindowTitle(m_browser->documentTitle().isEmpty() ? QLatin1String(kHelpWindowTitle)
+                                                        : m_browser->documentTitle()
+                                   + QStringLiteral(" - ") + QLatin1String(kHelpWindowTitle));
 }
 
 QString helpTopicPath(const QString &programFolder, const QString &topic)

@@ -1,33 +1,10 @@
 #pragma once
 
+#include "UserTexts.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
-
-// Message box styles, numbered as the message boxes of the old platform numbered them: the
-// buttons in the low three bits, the icon in the next bits. The window uses 48 (exclamation and
-// OK) for errors, 16 (critical stop and OK) for calculation failures and 3 (Yes, No, Cancel, no
-// icon, first button the default) for the unsaved-data question.
-namespace MessageStyle {
-constexpr int OkOnly = 0;
-constexpr int OkCancel = 1;
-constexpr int YesNoCancel = 3;
-constexpr int YesNo = 4;
-constexpr int Critical = 16;
-constexpr int Question = 32;
-constexpr int Exclamation = 48;
-constexpr int Information = 64;
-constexpr int ButtonMask = 7;
-constexpr int IconMask = 112;
-} // namespace MessageStyle
-
-// The button a message box returns, with the old platform's numbers.
-namespace MessageAnswer {
-constexpr int Ok = 1;
-constexpr int Cancel = 2;
-constexpr int Yes = 6;
-constexpr int No = 7;
-} // namespace MessageAnswer
 
 // What the Open and Save dialogs are asked for.
 struct FileDialogRequest

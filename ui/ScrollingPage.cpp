@@ -1,20 +1,29 @@
 #include "ScrollingPage.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QFontMetrics>
 #include <QScrollBar>
-#include <QStyle>
+#include <QWheelEvent>
 
 namespace {
-
-constexpr int kResultsPage = 1;
 
 // The share of the visible band that one page step of a bar scrolls.
 constexpr double kPageStepShare = 0.8;
 
+// A wheel tells its turn in eighths of a degree: 120 to a notch.
+constexpr int kAnglePerNotch = 120;
+
 QString pageControlName(const char *arrayName, int page)
 {
     return QLatin1String(arrayName) + QLatin1Char('_') + QString::number(page);
+}
+
+// Moves `bar` by `pixels` of the content, when it is shown.
+void scrollBarBy(QScrollBar *bar, QWidget *page, int pixels)
+{
+    if (pixels != 0 && bar->isVisibleTo(page))
+        bar->setValue(bar->value() + pixels);
 }
 
 } // namespace
@@ -38,38 +47,48 @@ void MakeVisible(int top, int height, int panelTop, int viewportHeight, QScrollB
         scrollBar.setValue(bottom - viewportHeight);
 }
 
-ScrollingPage::ScrollingPage(int page, QWidget *content, QWidget *parent)
-    : QWidget(parent), m_page(page), m_content(content),
-      m_vertical(new QScrollBar(Qt::Vertical, this)),
-      m_horizontal(new QScrollBar(Qt::Horizontal, this)), m_corner(new QWidget(this))
+ScrollingPage::ScrollingPage(QWidget *content, Behaviour behaviour, QWidget *parent)
+    : QWidget(parent)
+    , m_behaviour(behaviour)
+    , m_content(content)
+    , m_vertical(new QScrollBar(Qt::Vertical, this))
+    , m_horizontal(new QScrollBar(Qt::Horizontal, this))
+    , m_corner(new QWidget(this))
 {
-    setObjectName(pageControlName("picStaionaryWindow", page));
     m_content->setParent(this);
-    m_content->setObjectName(pageControlName("picMovingWindow", page));
     m_content->move(0, 0);
-    m_vertical->setObjectName(pageControlName("vscScrollWindow", page));
-    m_horizontal->setObjectName(pageControlName("hscScrollWindow", page));
-    m_corner->setObjectName(pageControlName("picScrollButton", page));
     m_corner->setAutoFillBackground(true);
     m_corner->setBackgroundRole(QPalette::Window);
-    for (QWidget *control : { static_cast<QWidget *>(m_vertical),
-                              static_cast<QWidget *>(m_horizontal), m_corner }) {
+    for (QWidget *control :
+         { static_cast<QWidget *>(m_vertical), static_cast<QWidget *>(m_horizontal), m_corner }) {
         control->hide();
         control->raise();
     }
     // The bars move the panel while they are dragged as well as when they settle.
-    connect(m_vertical, &QScrollBar::valueChanged, this,
-            [this](int value) { m_content->move(m_content->x(), -value); });
-    connect(m_horizontal, &QScrollBar::valueChanged, this,
-            [this](int value) { m_content->move(-value, m_content->y()); });
-    connect(qApp, &QApplication::focusChanged, this, &ScrollingPage::onFocusChanged);
+    for (QScrollBar *bar : { m_vertical, m_horizontal }) {
+        connect(bar, &QScrollBar::valueChanged, this,
+                [this, bar](int value) { moveContent(bar->orientation(), value); });
+    }
 }
 
-// Deleting the page's children moves the focus, and QObject would cut the connection only after
-// this page had stopped being a ScrollingPage: cut it first.
+// The followed controls live inside the content panel and outlast this part of the page while
+// its children are deleted, and deleting them moves the focus: they stop reporting to the page
+// first.
 ScrollingPage::~ScrollingPage()
 {
-    disconnect(qApp, nullptr, this, nullptr);
+    for (const QPointer<QWidget> &widget : m_watched) {
+        if (widget)
+            widget->removeEventFilter(this);
+    }
+}
+
+void ScrollingPage::nameControls(int page)
+{
+    setObjectName(pageControlName("picStaionaryWindow", page));
+    m_content->setObjectName(pageControlName("picMovingWindow", page));
+    m_vertical->setObjectName(pageControlName("vscScrollWindow", page));
+    m_horizontal->setObjectName(pageControlName("hscScrollWindow", page));
+    m_corner->setObjectName(pageControlName("picScrollButton", page));
 }
 
 void ScrollingPage::ArrangeScrollBars()
@@ -98,37 +117,9 @@ void ScrollingPage::ArrangeScrollBars()
     }
 
     const QFontMetrics metrics(font());
-    if (verticalNeeded && H >= 1 && barWidth >= 1) {
-        m_vertical->setRange(0, CH - H);
-        if (m_page == kResultsPage)
-            m_vertical->setValue(0);
-        m_vertical->setSingleStep(metrics.height());
-        m_vertical->setPageStep(static_cast<int>(kPageStepShare * H));
-        m_vertical->setGeometry(W, 0, barWidth, H);
-        m_vertical->show();
-        m_content->move(m_content->x(), -m_vertical->value());
-    } else {
-        m_vertical->hide();
-        const QSignalBlocker blocker(m_vertical);
-        m_vertical->setValue(0);
-        m_content->move(m_content->x(), 0);
-    }
-
-    if (horizontalNeeded && W >= 1 && barHeight >= 1) {
-        m_horizontal->setRange(0, CW - W);
-        if (m_page == kResultsPage)
-            m_horizontal->setValue(0);
-        m_horizontal->setSingleStep(metrics.horizontalAdvance(QLatin1Char('X')));
-        m_horizontal->setPageStep(static_cast<int>(kPageStepShare * W));
-        m_horizontal->setGeometry(0, H, W, barHeight);
-        m_horizontal->show();
-        m_content->move(-m_horizontal->value(), m_content->y());
-    } else {
-        m_horizontal->hide();
-        const QSignalBlocker blocker(m_horizontal);
-        m_horizontal->setValue(0);
-        m_content->move(0, m_content->y());
-    }
+    arrangeBar(m_vertical, verticalNeeded, H, CH, metrics.height(), QRect(W, 0, barWidth, H));
+    arrangeBar(m_horizontal, horizontalNeeded, W, CW, metrics.horizontalAdvance(QLatin1Char('X')),
+               QRect(0, H, W, barHeight));
 
     if (m_vertical->isVisibleTo(this) && m_horizontal->isVisibleTo(this)) {
         m_corner->setGeometry(W, H, barWidth, barHeight);
@@ -136,6 +127,39 @@ void ScrollingPage::ArrangeScrollBars()
     } else {
         m_corner->hide();
     }
+}
+
+// One bar, vertical or horizontal: `viewExtent` is the viewport's height (width) left by the
+// other bar, `contentExtent` the panel's, `place` the bar's rectangle at the viewport's edge.
+// A bar that is not needed, or has no room, is hidden and the panel goes back to that edge.
+void ScrollingPage::arrangeBar(QScrollBar *bar, bool needed, int viewExtent, int contentExtent,
+                               int singleStep, const QRect &place)
+{
+    const Qt::Orientation orientation = bar->orientation();
+    const int thickness = orientation == Qt::Vertical ? place.width() : place.height();
+    if (needed && viewExtent >= 1 && thickness >= 1) {
+        bar->setRange(0, contentExtent - viewExtent);
+        if (m_behaviour == Behaviour::OpensAtTop)
+            bar->setValue(0);
+        bar->setSingleStep(singleStep);
+        bar->setPageStep(static_cast<int>(kPageStepShare * viewExtent));
+        bar->setGeometry(place);
+        bar->show();
+        moveContent(orientation, bar->value());
+    } else {
+        bar->hide();
+        const QSignalBlocker blocker(bar);
+        bar->setValue(0);
+        moveContent(orientation, 0);
+    }
+}
+
+void ScrollingPage::moveContent(Qt::Orientation orientation, int value)
+{
+    if (orientation == Qt::Vertical)
+        m_content->move(m_content->x(), -value);
+    else
+        m_content->move(-value, m_content->y());
 }
 
 void ScrollingPage::scrollToOrigin()
@@ -160,9 +184,42 @@ void ScrollingPage::scrollIntoView(QWidget *control)
         MakeVisible(top, control->height(), panelTop, visibleHeight(), *m_vertical);
 }
 
+// The focus lands on the innermost widget (the edit field of a labelled box, the drawing
+// surface of the grid), so the page watches every widget inside a followed control.
 void ScrollingPage::followFocus(QWidget *control)
 {
     m_followed.insert(control);
+    watch(control);
+    for (QWidget *inner : control->findChildren<QWidget *>())
+        watch(inner);
+}
+
+void ScrollingPage::watch(QWidget *widget)
+{
+    widget->installEventFilter(this);
+    m_watched.emplace_back(widget);
+}
+
+QWidget *ScrollingPage::followedControlOf(QObject *watched) const
+{
+    for (QWidget *widget = qobject_cast<QWidget *>(watched); widget && widget != m_content;
+         widget = widget->parentWidget()) {
+        if (m_followed.count(widget))
+            return widget;
+    }
+    return nullptr;
+}
+
+bool ScrollingPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn) {
+        // The window being activated again hands the focus back to the box that had it, and a
+        // closed pop-up menu does the same: neither is the user moving to that box.
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+            scrollIntoView(followedControlOf(watched));
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void ScrollingPage::resizeEvent(QResizeEvent *event)
@@ -172,12 +229,20 @@ void ScrollingPage::resizeEvent(QResizeEvent *event)
         ArrangeScrollBars();
 }
 
-void ScrollingPage::onFocusChanged(QWidget *, QWidget *now)
+// Wheel events reach the page from every control over it that does not scroll itself. A
+// touchpad tells the distance in pixels, the content's own unit; a wheel tells its turn, and a
+// notch scrolls the desktop's number of lines (three by default) of the bar's small step.
+void ScrollingPage::wheelEvent(QWheelEvent *event)
 {
-    for (QWidget *widget = now; widget && widget != m_content; widget = widget->parentWidget()) {
-        if (m_followed.count(widget)) {
-            scrollIntoView(widget);
-            return;
-        }
+    QPoint pixels = event->pixelDelta();
+    if (pixels.isNull()) {
+        const QPoint angle = event->angleDelta();
+        const int lines = QApplication::wheelScrollLines();
+        pixels = QPoint(angle.x() * lines * m_horizontal->singleStep() / kAnglePerNotch,
+                        angle.y() * lines * m_vertical->singleStep() / kAnglePerNotch);
     }
+    // Turning the wheel towards the user (a negative delta) moves down the page.
+    scrollBarBy(m_vertical, this, -pixels.y());
+    scrollBarBy(m_horizontal, this, -pixels.x());
+    event->accept();
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 #include <set>
+#include <vector>
 
 class QScrollBar;
 
@@ -17,25 +19,34 @@ void MakeVisible(int top, int height, int panelTop, int viewportHeight, QScrollB
 
 // One scrolling page of the main window: the fixed viewport picStaionaryWindow(i) with the
 // content panel picMovingWindow(i) moving inside it, the scroll bars vscScrollWindow(i) and
-// hscScrollWindow(i), and the corner box picScrollButton(i) where both bars meet. Page 0 is the
-// Input Data page, page 1 the Results page.
+// hscScrollWindow(i), and the corner box picScrollButton(i) where both bars meet.
+//
+// The mouse wheel and the touchpad scroll the page wherever the pointer is over it, except over
+// a control that scrolls itself (the rating-curve grid).
 class ScrollingPage : public QWidget
 {
     Q_OBJECT
 
 public:
+    // What a relayout does to the scroll position: the Input Data page keeps its place, the
+    // Results page opens at its top.
+    enum class Behaviour { KeepsItsPlace, OpensAtTop };
+
     // Takes `content` as the page's content panel; the page's layout sizes the panel.
-    ScrollingPage(int page, QWidget *content, QWidget *parent = nullptr);
+    ScrollingPage(QWidget *content, Behaviour behaviour, QWidget *parent = nullptr);
     ~ScrollingPage() override;
 
-    int page() const { return m_page; }
+    Behaviour behaviour() const { return m_behaviour; }
+    // Names the page's controls after their control arrays with index `page`:
+    // picStaionaryWindow_<page>, picMovingWindow_<page> and so on.
+    void nameControls(int page);
     QWidget *picMovingWindow() const { return m_content; }
     QScrollBar *vscScrollWindow() const { return m_vertical; }
     QScrollBar *hscScrollWindow() const { return m_horizontal; }
     QWidget *picScrollButton() const { return m_corner; }
 
     // Works out which bars the content needs, their ranges and steps, and places them and the
-    // corner box. The Results page opens at its top; the Input Data page keeps its place.
+    // corner box; a page that opens at its top goes back there.
     void ArrangeScrollBars();
     // While suspended, a resize of the viewport leaves the bars alone (start-up, before both
     // pages were laid out for the first time).
@@ -50,20 +61,30 @@ public:
     // Scrolls a control of the content panel (or a control inside one of its children, such as
     // an option button inside its group) into view when it is not wholly visible.
     void scrollIntoView(QWidget *control);
-    // When `control`, or a widget inside it, receives the focus, scroll it into view.
+    // When `control`, or a widget inside it, receives the focus from the user or the program,
+    // scroll it into view. A focus that only comes back because the window was activated again
+    // (after a message box, or from another program) or a pop-up menu closed leaves the page
+    // where it is.
     void followFocus(QWidget *control);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
-    void onFocusChanged(QWidget *previous, QWidget *now);
+    void arrangeBar(QScrollBar *bar, bool needed, int viewExtent, int contentExtent, int singleStep,
+                    const QRect &place);
+    void moveContent(Qt::Orientation orientation, int value);
+    QWidget *followedControlOf(QObject *watched) const;
+    void watch(QWidget *widget);
 
-    int m_page;
+    Behaviour m_behaviour;
     QWidget *m_content;
     QScrollBar *m_vertical;
     QScrollBar *m_horizontal;
     QWidget *m_corner;
     bool m_arrangeSuspended = false;
     std::set<const QWidget *> m_followed;
+    std::vector<QPointer<QWidget>> m_watched; // the followed controls and the widgets inside them
 };

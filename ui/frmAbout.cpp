@@ -1,5 +1,7 @@
 #include "frmAbout.h"
 
+#include "UserTexts.h"
+
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -11,9 +13,9 @@ frmAbout::frmAbout(const QString &versionText, QWidget *parent)
     , Command1(new QPushButton(QStringLiteral("OK"), this))
 {
     setObjectName(QStringLiteral("frmAbout"));
-    setWindowTitle(QStringLiteral("About TAVRO Channel and Overland Flow Analysis"));
+    setWindowTitle(QStringLiteral("About ") + QLatin1String(kProgramTitle));
     const QStringList texts = {
-        QStringLiteral("TAVRO Channel and Overland Flow Analysis"),
+        QLatin1String(kProgramTitle),
         versionText,
         QStringLiteral("Checks the design of a grassed or lined stormwater channel (a swale): "
                        "runoff from the contributing area, normal depth by Manning's equation, "

@@ -9,6 +9,7 @@
 #include "OptionGroup.h"
 #include "PrintRoutine.h"
 #include "Prompts.h"
+#include "RdcGridA.h"
 #include "RecentFilesMenu.h"
 #include "RecoveryStore.h"
 #include "Results.h"
@@ -35,9 +36,6 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
-
-const char *const kProgramTitle = "TAVRO Channel and Overland Flow Analysis";
-const char *const kErrorTitle = "Error";
 
 namespace {
 constexpr int kInputTab = 0;
@@ -120,8 +118,10 @@ void frmMain::buildPages()
     m_helpImage = new HelpImagePanel(*ctrlPictureViewer1, m_folders, m_menus.mnuHelp_Image_Size,
                                      m_menus.mnuHelpImage_Image_Size, *m_menus.mnuHelpImage,
                                      *m_menus.mnuHelpImage_Copy, this);
-    picStaionaryWindow[0] = new ScrollingPage(0, m_inputPage);
-    picStaionaryWindow[1] = new ScrollingPage(1, m_resultsPage);
+    picStaionaryWindow[0] = new ScrollingPage(m_inputPage, ScrollingPage::Behaviour::KeepsItsPlace);
+    picStaionaryWindow[1] = new ScrollingPage(m_resultsPage, ScrollingPage::Behaviour::OpensAtTop);
+    for (int page = 0; page < 2; ++page)
+        picStaionaryWindow[static_cast<size_t>(page)]->nameControls(page);
     m_keyboard = new KeyboardNavigator(m_inputPage->controls(), m_resultsPage->controls(), this);
     followFocusOnPages();
     SSTab1 = new QTabWidget(this);
@@ -352,10 +352,15 @@ void frmMain::showValidationFault(const ValidationFault &fault)
         m_inputPage->selectRatingCurveCell(fault.row, fault.col);
     m_prompts.ShowErrorMessage(QString::fromStdString(fault.message), MessageStyle::Exclamation,
                                QLatin1String(kErrorTitle));
-    if (fault.place == FaultPlace::InputBox)
+    // Under a desktop the window gets the focus back only after the message closed, and that
+    // late focus leaves the page where it is: the page goes to the box itself.
+    if (fault.place == FaultPlace::InputBox) {
         m_inputPage->focusInput(fault.input);
-    else if (fault.place == FaultPlace::GridCell)
+        picStaionaryWindow[0]->scrollIntoView(m_inputPage->box(fault.input));
+    } else if (fault.place == FaultPlace::GridCell) {
         m_inputPage->focusRatingCurve();
+        picStaionaryWindow[0]->scrollIntoView(m_inputPage->ratingCurveGrid());
+    }
 }
 
 void frmMain::showResults(const CalculationOutcome &outcome)

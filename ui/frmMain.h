@@ -5,6 +5,7 @@
 #include "GlobalData.h"
 #include "MainMenus.h"
 #include "SwaleProject.h"
+#include "UserTexts.h"
 
 #include <QMainWindow>
 
@@ -28,10 +29,6 @@ class ctrlPictureViewer;
 struct CalculationOutcome;
 struct ValidationFault;
 class tvrEditBox;
-
-// Texts the window shows in more than one place.
-extern const char *const kProgramTitle; // "TAVRO Channel and Overland Flow Analysis"
-extern const char *const kErrorTitle; // "Error"
 
 // Open modes of GetFileOpenName, OpenProjectCommand and OpenDataFile.
 enum OpenMode { OpenNormal = 1, OpenExample = 2 };

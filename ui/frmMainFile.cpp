@@ -21,7 +21,7 @@ namespace {
 
 const QStringList kProjectFilters = {
     QStringLiteral("All Files (*.*)"),
-    QStringLiteral("TAVRO Channel and Overland Flow Analysis (*.swl)"),
+    QLatin1String(kProgramTitle) + QStringLiteral(" (*.swl)"),
 };
 constexpr int kProjectFilter = 1; // the *.swl entry is chosen at first
 // The dialogs' default extension has always been "udr", although projects end in ".swl".
@@ -159,7 +159,7 @@ bool frmMain::OpenDataFile(const QString &path, int mode)
 {
     SwaleProject project;
     if (!QFileInfo(path).isFile() || !loadProject(path.toStdString(), project).ok) {
-        m_prompts.ShowErrorMessage(fileErrorText("Unable to open file:", path),
+        m_prompts.ShowErrorMessage(fileErrorText(kUnableToOpenFileMessage, path),
                                    MessageStyle::Exclamation, QLatin1String(kErrorTitle));
         return false;
     }
@@ -200,7 +200,7 @@ bool frmMain::SaveProjectAs()
     const ProjectFileResult result = saveProject(path.toStdString(), currentProject());
     if (!result.ok) {
         reportSaveFailure(result.failedStep == ProjectFileStep::Open ? "Error opening file:"
-                                                                     : "Error writing to file:",
+                                                                     : kErrorWritingToFileMessage,
                           path);
         return false;
     }
@@ -215,7 +215,7 @@ bool frmMain::WriteDataFile(const QString &path)
 {
     const ProjectFileResult result = saveProject(path.toStdString(), currentProject());
     if (!result.ok) {
-        reportSaveFailure(result.failedStep == ProjectFileStep::Open ? "Unable to open file:"
+        reportSaveFailure(result.failedStep == ProjectFileStep::Open ? kUnableToOpenFileMessage
                                                                      : "Error writing data file:",
                           path);
         return false;

@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr int kInputPage = 0;
-constexpr int kResultsPage = 1;
+constexpr auto kInputPage = ScrollingPage::Behaviour::KeepsItsPlace;
+constexpr auto kResultsPage = ScrollingPage::Behaviour::OpensAtTop;
 
 int barWidth()
 {
@@ -23,8 +23,8 @@ int barHeight()
 // A page of `pageSize` showing a content panel of `contentSize`.
 struct PageUnderTest
 {
-    PageUnderTest(int page, QSize pageSize, QSize contentSize)
-        : content(new QWidget), viewport(page, content)
+    PageUnderTest(ScrollingPage::Behaviour page, QSize pageSize, QSize contentSize)
+        : content(new QWidget), viewport(content, page)
     {
         content->resize(contentSize);
         viewport.resize(pageSize);
@@ -226,7 +226,7 @@ void tst_ScrollingPage::focusFollowingScrollsTheControlIntoView()
     }
     auto *notFollowed = new QLineEdit(content);
     notFollowed->setGeometry(10, 900, 150, 30);
-    ScrollingPage page(kInputPage, content);
+    ScrollingPage page(content, kInputPage);
     page.resize(300, 300);
     for (QLineEdit *box : boxes)
         page.followFocus(box);
