@@ -4,6 +4,7 @@
 #include "JsonOutput.h"
 #include "PdfReport.h"
 #include "ProjectFile.h"
+#include "SweepCommand.h"
 #include "TextReport.h"
 
 #include "Calculate.h"
@@ -41,14 +42,19 @@ int main(int argc, char *argv[])
     SwaleProject project;
     const ProjectFileResult load = loadProject(commandLine.projectPath, project);
     if (!load.ok) {
-        const std::string message =
-                "Unable to open file: " + commandLine.projectPath + " (" + load.error + ")";
+        const std::string message
+                = "Unable to open file: " + commandLine.projectPath + " (" + load.error + ")";
         if (commandLine.json)
             std::cout << jsonUnreadable(message);
         else
             std::cerr << "Error: " << message << "\n";
         return ExitFileNotLoaded;
     }
+
+    if (!commandLine.sweeps.empty())
+        return runSweepCommand(commandLine, project, std::cout, std::cerr);
+    if (commandLine.solve)
+        return runSolveCommand(commandLine, project, std::cout, std::cerr);
 
     const CalculationOutcome outcome = Calculate(project);
     if (commandLine.json)
