@@ -16,12 +16,6 @@ bool isSweptSymbol(const SweepResult &sweep, const std::string &symbol)
                        [&](const SweepAxis &axis) { return inputSymbol(axis.box) == symbol; });
 }
 
-void appendField(std::string &line, const std::string &text)
-{
-    if (!line.empty())
-        line += ',';
-    line += csvField(text);
-}
 } // namespace
 
 std::string csvField(const std::string &text)
@@ -37,38 +31,54 @@ std::string csvField(const std::string &text)
     return quoted + "\"";
 }
 
-std::string sweepCsvHeader(const SweepResult &sweep, CsvHeader header)
+std::vector<std::string> sweepHeaderFields(const SweepResult &sweep, CsvHeader header)
 {
-    std::string line;
+    std::vector<std::string> fields;
     for (const SweepAxis &axis : sweep.axes) {
-        const std::string symbol = inputSymbol(axis.box);
-        appendField(line,
-                    header == CsvHeader::Symbols
-                            ? symbol
-                            : withUnit(inputCaptionWithSymbol(axis.box), inputBox(axis.box).unit));
+        fields.push_back(header == CsvHeader::Symbols ? inputSymbol(axis.box)
+                                                      : withUnit(inputCaptionWithSymbol(axis.box),
+                                                                 inputBox(axis.box).unit));
     }
-    appendField(line, "status");
+    fields.push_back("status");
     for (const ResultColumn &column : sweep.columns) {
         if (header == CsvHeader::Captions)
-            appendField(line, withUnit(column.caption, column.unit));
+            fields.push_back(withUnit(column.caption, column.unit));
         else
-            appendField(line,
-                        isSweptSymbol(sweep, column.key) ? column.key + "_result" : column.key);
+            fields.push_back(isSweptSymbol(sweep, column.key) ? column.key + "_result"
+                                                              : column.key);
     }
-    appendField(line, "message");
+    fields.push_back("message");
+    return fields;
+}
+
+std::vector<std::string> sweepRowFields(const SweepResult &sweep, const SweepRow &row)
+{
+    std::vector<std::string> fields;
+    for (double value : row.inputs)
+        fields.push_back(pointText(value));
+    fields.push_back(statusName(row.status));
+    for (size_t c = 0; c < sweep.columns.size(); ++c)
+        fields.push_back(c < row.results.size() ? row.results[c] : std::string());
+    fields.push_back(row.message);
+    return fields;
+}
+
+std::string csvLine(const std::vector<std::string> &fields)
+{
+    std::string line;
+    for (size_t i = 0; i < fields.size(); ++i)
+        line += (i ? "," : "") + csvField(fields[i]);
     return line + "\n";
+}
+
+std::string sweepCsvHeader(const SweepResult &sweep, CsvHeader header)
+{
+    return csvLine(sweepHeaderFields(sweep, header));
 }
 
 std::string sweepCsvRow(const SweepResult &sweep, const SweepRow &row)
 {
-    std::string line;
-    for (double value : row.inputs)
-        appendField(line, pointText(value));
-    appendField(line, statusName(row.status));
-    for (size_t c = 0; c < sweep.columns.size(); ++c)
-        appendField(line, c < row.results.size() ? row.results[c] : std::string());
-    appendField(line, row.message);
-    return line + "\n";
+    return csvLine(sweepRowFields(sweep, row));
 }
 
 std::string sweepCsv(const SweepResult &sweep, CsvHeader header)

@@ -25,6 +25,9 @@ struct MainMenus
     QAction *cmdFile_Example = nullptr;
     QAction *mnuFile_Exit = nullptr;
 
+    QMenu *mnuView = nullptr; // between File and Help: windows beside the three tabs
+    QAction *mnuView_DesignExplorer = nullptr;
+
     QMenu *mnuHelp = nullptr;
     QMenu *mnuHelp_Image = nullptr;
     std::array<QAction *, 5> mnuHelp_Image_Size {}; // [0] unused: sizes 1 to 4

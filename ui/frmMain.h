@@ -11,6 +11,7 @@
 #include <array>
 #include <memory>
 
+class DesignExplorer;
 class HelpImagePanel;
 class InputPage;
 class KeyboardNavigator;
@@ -61,6 +62,7 @@ public:
     QPushButton *calculateButton() const { return cmdCalculate; }
     const MainMenus &menus() const { return m_menus; }
     const ChannelPane &channelPane() const { return m_channelPane; }
+    DesignExplorer *designExplorer() const { return m_designExplorer; }
     QString versionText() const { return m_versionText; }
     // Whether tab `tab`'s panel may be shown: set once the panels were sized to the tab.
     bool isPanelShown(int tab) const { return m_panelShown[static_cast<size_t>(tab)]; }
@@ -102,6 +104,8 @@ public slots:
     void pageSetupCommand();
     void exportPdfCommand();
     void showAbout();
+    // View > Design Explorer...: opens (or brings forward) the explorer on this document.
+    void showDesignExplorer();
     void showHelpTopic(int topic);
     // Opens help topic `fileName` ("1.html") of the program's help folder; nothing when missing.
     void showHelpFile(const QString &fileName);
@@ -158,6 +162,7 @@ private:
     HelpImagePanel *m_helpImage = nullptr;
     KeyboardNavigator *m_keyboard = nullptr;
     QPushButton *cmdCalculate = nullptr;
+    DesignExplorer *m_designExplorer = nullptr; // made on first use, kept while the window lives
 
     QString m_currentFilePath; // "" for an untitled project
     QString m_currentDataFolder; // folder of the last project opened or saved
