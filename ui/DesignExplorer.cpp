@@ -11,6 +11,7 @@
 #include <QChart>
 #include <QChartView>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -112,6 +113,19 @@ DesignExplorer::~DesignExplorer()
 
 // The controls of axis `number` (1 or 2) are named "input1", "from1", "to1", "points1" and
 // "spacing1" (or ...2), for the tests.
+void DesignExplorer::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !m_worker)
+        refreshChoices();
+}
+
+void DesignExplorer::closeEvent(QCloseEvent *event)
+{
+    cancelSweep();
+    QWidget::closeEvent(event);
+}
+
 QWidget *DesignExplorer::buildAxisRow(AxisControls &controls, int number, int maxPoints)
 {
     auto *row = new QWidget(this);

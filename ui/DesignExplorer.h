@@ -65,6 +65,12 @@ public:
 signals:
     void sweepFinished();
 
+protected:
+    // Coming forward again offers the inputs of the options chosen meanwhile in the window.
+    void changeEvent(QEvent *event) override;
+    // Closing the window stops a sweep that is still running.
+    void closeEvent(QCloseEvent *event) override;
+
 private:
     struct AxisControls
     {
