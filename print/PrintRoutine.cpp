@@ -73,7 +73,8 @@ QString suggestedPdfPath(const QString &projectFilePath, const QString &dataFold
 
 bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
                     const QString &projectFilePath, const ReportPageSetup &setup,
-                    const PageMargins &margins, QString *error)
+                    const PageMargins &margins, QString *error,
+                    const std::vector<ReportSection> &extraSections)
 {
     QSaveFile file(pdfPath);
     if (!file.open(QIODevice::WriteOnly)) {
@@ -87,7 +88,8 @@ bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
         writer.setTitle(documentTitle(project));
         writer.setCreator(QString::fromUtf8(kReportProgramName));
         applySetup(writer, setup);
-        const ReportContent content = buildReportContent(project, projectFilePath);
+        ReportContent content = buildReportContent(project, projectFilePath);
+        content.sections.insert(content.sections.end(), extraSections.begin(), extraSections.end());
         if (!paintReport(writer, content, marginsInPoints(margins), error))
             return false;
     }
@@ -132,7 +134,8 @@ bool PrintRoutine::printReport(const SwaleProject &project, const QString &proje
     if (!m_prompts.askPrinter(printer))
         return false;
     printer.setFullPage(true);
-    const ReportContent content = buildReportContent(project, projectFilePath);
+    ReportContent content = buildReportContent(project, projectFilePath);
+    content.sections.insert(content.sections.end(), m_extraSections.begin(), m_extraSections.end());
     if (!paintReport(printer, content, marginsInPoints(currentMargins()))) {
         m_prompts.ShowErrorMessage(noPrinter, kExclamationStyle, kErrorTitle);
         return false;
@@ -157,7 +160,8 @@ bool PrintRoutine::exportPdf(const SwaleProject &project, const QString &project
     const QString path = m_prompts.askPdfFileName(suggestedPdfPath(projectFilePath, dataFolder));
     if (path.isEmpty())
         return false;
-    if (!writeReportPdf(path, project, projectFilePath, m_setup, currentMargins())) {
+    if (!writeReportPdf(path, project, projectFilePath, m_setup, currentMargins(), nullptr,
+                        m_extraSections)) {
         m_prompts.ShowErrorMessage(QStringLiteral("Error writing to file:") + QLatin1Char('\r')
                                            + path,
                                    kExclamationStyle, kErrorTitle);

@@ -29,10 +29,13 @@
 
 #include "PageMargins.h"
 #include "PageSetupDialog.h"
+#include "ReportContent.h"
 #include "SwaleProject.h"
 
 #include <QMarginsF>
 #include <QString>
+
+#include <vector>
 
 class QPrinter;
 class QWidget;
@@ -85,6 +88,12 @@ public:
                    const QString &dataFolder);
 
     const ReportPageSetup &setup() const { return m_setup; }
+    // Sections printed after the report's own, such as the design explorer's page; none by
+    // default.
+    void setExtraSections(std::vector<ReportSection> sections)
+    {
+        m_extraSections = std::move(sections);
+    }
     // The margins of the next print: those chosen in Page Setup, else Margins.ini read now.
     PageMargins currentMargins() const;
 
@@ -94,6 +103,7 @@ private:
     PrintPrompts &m_prompts;
     QString m_programFolder;
     ReportPageSetup m_setup;
+    std::vector<ReportSection> m_extraSections;
 };
 
 // The record's margins in points as left, top, right, bottom.
@@ -103,9 +113,10 @@ QMarginsF marginsInPoints(const PageMargins &margins);
 // report.pdf" in `dataFolder` for an untitled project.
 QString suggestedPdfPath(const QString &projectFilePath, const QString &dataFolder);
 
-// Writes the report of `project` to `pdfPath` on the paper of `setup` with `margins`. The file
-// is replaced only once the whole report was written. Returns false with the reason in `error`.
-// Needs a QGuiApplication (fonts).
+// Writes the report of `project` to `pdfPath` on the paper of `setup` with `margins`, followed
+// by `extraSections`. The file is replaced only once the whole report was written. Returns false
+// with the reason in `error`. Needs a QGuiApplication (fonts).
 bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
                     const QString &projectFilePath, const ReportPageSetup &setup,
-                    const PageMargins &margins, QString *error = nullptr);
+                    const PageMargins &margins, QString *error = nullptr,
+                    const std::vector<ReportSection> &extraSections = {});

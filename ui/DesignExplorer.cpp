@@ -6,6 +6,7 @@
 
 #include "NumberText.h"
 #include "SweepCsv.h"
+#include "SweepReport.h"
 #include "Validation.h"
 
 #include <QChart>
@@ -204,6 +205,10 @@ QWidget *DesignExplorer::buildViews()
     m_exportChart->setEnabled(false);
     sideLayout->addWidget(m_exportCsv);
     sideLayout->addWidget(m_exportChart);
+    m_onReport = new QCheckBox(QStringLiteral("Add the sweep to the printed &report"), side);
+    m_onReport->setObjectName(QStringLiteral("onReport"));
+    sideLayout->addWidget(m_onReport);
+    connect(m_onReport, &QCheckBox::toggled, this, &DesignExplorer::updateReportPage);
 
     m_views = new QTabWidget(splitter);
     m_chart = new QChartView(new QChart, m_views);
@@ -364,11 +369,36 @@ void DesignExplorer::redrawChart()
     QChart *old = m_chart->chart();
     m_chart->setChart(buildSweepChart(*m_sweep, columns));
     delete old;
+    updateReportPage();
 }
 
 void DesignExplorer::redrawHeatMap()
 {
     m_heatMap->setSweep(m_sweep.get(), m_mapResult->currentData().toInt());
+    updateReportPage();
+}
+
+int DesignExplorer::reportColumn() const
+{
+    if (!m_sweep || m_sweep->axes.size() == 2)
+        return m_mapResult->currentData().toInt();
+    for (int i = 0; i < m_chartResults->count(); ++i) {
+        const QListWidgetItem *item = m_chartResults->item(i);
+        if (item->checkState() == Qt::Checked)
+            return item->data(Qt::UserRole).toInt();
+    }
+    return -1;
+}
+
+void DesignExplorer::updateReportPage()
+{
+    if (!m_hooks.reportSections)
+        return;
+    std::vector<ReportSection> sections;
+    if (m_onReport->isChecked() && m_sweep)
+        sections.push_back(sweepReportSection(*m_sweep, reportColumn(),
+                                              m_solved.message.empty() ? nullptr : &m_solved));
+    m_hooks.reportSections(std::move(sections));
 }
 
 void DesignExplorer::solve()
@@ -397,6 +427,7 @@ void DesignExplorer::solve()
     message[0] = message[0].toUpper();
     m_solveMessage->setText(message + QLatin1Char('.'));
     m_put->setEnabled(m_solved.reached);
+    updateReportPage();
 }
 
 void DesignExplorer::putSolvedValue()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ReportContent.h"
 #include "Sweep.h"
 
 #include <QWidget>
@@ -33,6 +34,8 @@ struct ExplorerHooks
     // results are cleared the usual way.
     std::function<void(int box, const QString &text)> putValue;
     std::function<QString()> dataFolder; // where the export dialogs start
+    // The explorer's page for the printed report (Print, Export PDF); empty for none.
+    std::function<void(std::vector<ReportSection>)> reportSections;
 };
 
 // The Design Explorer window: sweeps one or two inputs of the current project through the
@@ -90,6 +93,10 @@ private:
     void showSweep();
     void redrawChart();
     void redrawHeatMap();
+    // Hands the report its page: the sweep with the result on the chart (or the heat map) when
+    // "Add the sweep to the printed report" is ticked, else none.
+    void updateReportPage();
+    int reportColumn() const;
 
     Prompts &m_prompts;
     ExplorerHooks m_hooks;
@@ -110,6 +117,7 @@ private:
     QPushButton *m_put = nullptr;
     QPushButton *m_exportCsv = nullptr;
     QPushButton *m_exportChart = nullptr;
+    QCheckBox *m_onReport = nullptr;
 
     std::unique_ptr<SweepResult> m_sweep;
     QThread *m_worker = nullptr;

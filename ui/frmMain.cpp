@@ -395,6 +395,9 @@ void frmMain::showDesignExplorer()
         // Typing into the box runs the edit path of the window: results cleared, data changed.
         hooks.putValue = [this](int box, const QString &text) { txtInput(box)->setText(text); };
         hooks.dataFolder = [this] { return GetDataFolder(); };
+        hooks.reportSections = [this](std::vector<ReportSection> sections) {
+            m_printRoutine->setExtraSections(std::move(sections));
+        };
         m_designExplorer = new DesignExplorer(m_prompts, std::move(hooks), this);
     }
     m_designExplorer->refreshChoices();

@@ -1,5 +1,6 @@
 // Pictures of the Design Explorer for a person to look at: a one-way sweep as a chart and a
-// table, a two-way sweep as a heat map, and a solved target. swale_explorer_screenshots OUTPUT.
+// table, a two-way sweep as a heat map, a solved target, and the report with the explorer's page.
+// swale_explorer_screenshots OUTPUT.
 #include "DesignExplorer.h"
 #include "ScreenshotSession.h"
 #include "frmMain.h"
@@ -8,6 +9,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -54,6 +56,13 @@ int main(int argc, char *argv[])
     explorer.findChild<QLineEdit *>(QStringLiteral("target"))->setText(QStringLiteral("1200"));
     explorer.solve();
     session.save(&explorer, QStringLiteral("explorer-solved"));
+
+    // The report with the explorer's page, as Export PDF writes it.
+    explorer.findChild<QCheckBox *>(QStringLiteral("onReport"))->setChecked(true);
+    window.calculateButton()->click();
+    session.prompts.answerSave(QString::fromLocal8Bit(argv[1])
+                               + QStringLiteral("/explorer-report.pdf"));
+    window.exportPdfCommand();
 
     explorer.findChild<QCheckBox *>(QStringLiteral("twoWay"))->setChecked(true);
     setAxis(explorer, 1, QStringLiteral("B"), QStringLiteral("1"), QStringLiteral("12"), 60);
