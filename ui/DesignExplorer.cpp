@@ -214,11 +214,12 @@ QWidget *DesignExplorer::buildViews()
     m_chart = new QChartView(new QChart, m_views);
     m_chart->setRenderHint(QPainter::Antialiasing);
     m_views->addTab(m_chart, QStringLiteral("Chart"));
-    auto *table = new QTableView(m_views);
-    m_table = new SweepTableModel(table);
-    table->setModel(m_table);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-    m_views->addTab(table, QStringLiteral("Table"));
+    m_tableView = new QTableView(m_views);
+    m_table = new SweepTableModel(m_tableView);
+    m_tableView->setModel(m_table);
+    m_tableView->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+    m_tableView->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    m_views->addTab(m_tableView, QStringLiteral("Table"));
     m_heatMap = new HeatMapView(m_views);
     m_views->addTab(m_heatMap, QStringLiteral("Heat map"));
     splitter->setStretchFactor(1, 1);
@@ -332,6 +333,12 @@ void DesignExplorer::onSweepDone(std::shared_ptr<SweepResult> result)
 void DesignExplorer::showSweep()
 {
     m_table->setSweep(m_sweep.get());
+    // Columns as wide as their captions: measuring 100,000 rows would stall the window.
+    const QFontMetrics metrics(m_tableView->horizontalHeader()->font());
+    for (int c = 0; c < m_table->columnCount(); ++c) {
+        const QString caption = m_table->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        m_tableView->setColumnWidth(c, std::min(360, metrics.horizontalAdvance(caption) + 24));
+    }
     const QSignalBlocker blockList(m_chartResults);
     const QSignalBlocker blockMap(m_mapResult);
     m_chartResults->clear();

@@ -22,6 +22,7 @@ class QProgressBar;
 class QPushButton;
 class QSpinBox;
 class QTabWidget;
+class QTableView;
 class QThread;
 class QTimer;
 class SweepTableModel;
@@ -110,6 +111,7 @@ private:
     QTabWidget *m_views = nullptr;
     QChartView *m_chart = nullptr;
     SweepTableModel *m_table = nullptr;
+    QTableView *m_tableView = nullptr;
     HeatMapView *m_heatMap = nullptr;
     QComboBox *m_solveResult = nullptr;
     QLineEdit *m_target = nullptr;
