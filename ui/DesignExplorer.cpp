@@ -443,19 +443,27 @@ void DesignExplorer::putSolvedValue()
         m_hooks.putValue(m_solvedBox, qText(pointText(m_solved.input)));
 }
 
+QString DesignExplorer::askExportPath(const QStringList &filters, const QString &suffix)
+{
+    FileDialogRequest request;
+    request.initialFolder = m_hooks.dataFolder();
+    request.filters = filters;
+    request.defaultSuffix = suffix;
+    request.flags = FileDialogRequest::OverwritePrompt | FileDialogRequest::PathMustExist;
+    const QString path = m_prompts.askSaveFileName(request);
+    return path.isEmpty() ? path : withSuffix(path, suffix);
+}
+
 bool DesignExplorer::exportCsv()
 {
     if (!m_sweep)
         return false;
-    FileDialogRequest request;
-    request.initialFolder = m_hooks.dataFolder();
-    request.filters = { QStringLiteral("CSV files (*.csv)"), QStringLiteral("All Files (*.*)") };
-    request.defaultSuffix = QStringLiteral("csv");
-    request.flags = FileDialogRequest::OverwritePrompt | FileDialogRequest::PathMustExist;
-    const QString path = m_prompts.askSaveFileName(request);
+    const QString path = askExportPath(
+            { QStringLiteral("CSV files (*.csv)"), QStringLiteral("All Files (*.*)") },
+            QStringLiteral("csv"));
     if (path.isEmpty())
         return false;
-    QSaveFile file(withSuffix(path, QStringLiteral("csv")));
+    QSaveFile file(path);
     const std::string csv = sweepCsv(*m_sweep, CsvHeader::Captions);
     if (!file.open(QIODevice::WriteOnly)
         || file.write(csv.data(), static_cast<qint64>(csv.size()))
@@ -472,15 +480,11 @@ bool DesignExplorer::exportChart()
 {
     if (!m_sweep)
         return false;
-    FileDialogRequest request;
-    request.initialFolder = m_hooks.dataFolder();
-    request.filters = { QStringLiteral("PNG image (*.png)"), QStringLiteral("SVG image (*.svg)") };
-    request.defaultSuffix = QStringLiteral("png");
-    request.flags = FileDialogRequest::OverwritePrompt | FileDialogRequest::PathMustExist;
-    const QString chosen = m_prompts.askSaveFileName(request);
-    if (chosen.isEmpty())
+    const QString path = askExportPath(
+            { QStringLiteral("PNG image (*.png)"), QStringLiteral("SVG image (*.svg)") },
+            QStringLiteral("png"));
+    if (path.isEmpty())
         return false;
-    const QString path = withSuffix(chosen, QStringLiteral("png"));
     bool written = false;
     if (QFileInfo(path).suffix().compare(QLatin1String("svg"), Qt::CaseInsensitive) == 0) {
         QSvgGenerator svg;

@@ -98,6 +98,9 @@ private:
     // "Add the sweep to the printed report" is ticked, else none.
     void updateReportPage();
     int reportColumn() const;
+    // The Save dialog of the exports, starting in the data folder; "" when cancelled. A name
+    // typed without an extension gets `suffix`.
+    QString askExportPath(const QStringList &filters, const QString &suffix);
 
     Prompts &m_prompts;
     ExplorerHooks m_hooks;
