@@ -25,7 +25,9 @@ struct MainMenus
     QAction *cmdFile_Example = nullptr;
     QAction *mnuFile_Exit = nullptr;
 
-    QMenu *mnuView = nullptr; // between File and Help: windows beside the three tabs
+    // Between File and Help: the panes and windows beside the three tabs (the channel pane adds
+    // its entry first).
+    QMenu *mnuView = nullptr;
     QAction *mnuView_DesignExplorer = nullptr;
 
     QMenu *mnuHelp = nullptr;
