@@ -1,11 +1,12 @@
 // Speed of the calculation core: the normal-depth search alone, and one whole Calculate command
 // (validation, the method, the result and clipboard texts) per solution method, on the examples
-// and on 10,000 seeded random channels. One channel repeated lets the branch predictor learn the
-// search's path; the random ones do not.
+// and on 10,000 seeded random channels, and the design explorer's sweep of 100,000 points. One
+// channel repeated lets the branch predictor learn the search's path; the random ones do not.
 
 #include "Calculate.h"
 #include "ChannelHydraulics.h"
 #include "ProjectFile.h"
+#include "Sweep.h"
 
 #include <benchmark/benchmark.h>
 
@@ -170,6 +171,28 @@ BENCHMARK(BM_CalculateRandom)
         ->DenseRange(1, 4)
         ->Repetitions(5)
         ->ReportAggregatesOnly(true);
+// The design explorer's largest sweep: 100,000 values of the bottom width, each a whole Calculate
+// command on the example of the method (the input text written, validated, solved, displayed).
+void BM_Sweep(benchmark::State &state)
+{
+    const SwaleProject project = example(static_cast<int>(state.range(0)));
+    SweepAxis axis;
+    axis.box = 5; // B
+    axis.from = 1;
+    axis.to = 20;
+    axis.points = kMaxSweepPoints;
+    for (auto _ : state) {
+        SweepResult sweep = runSweep(project, { axis });
+        benchmark::DoNotOptimize(sweep);
+        if (!sweep.complete || sweep.rows.back().status != PointStatus::Ok) {
+            state.SkipWithError("the sweep of the example does not calculate");
+            break;
+        }
+    }
+    state.counters["points"] = kMaxSweepPoints;
+}
+BENCHMARK(BM_Sweep)->ArgName("method")->DenseRange(1, 4)->Iterations(1)->Unit(
+        benchmark::kMillisecond);
 } // namespace
 
 BENCHMARK_MAIN();

@@ -4,6 +4,7 @@
 #include "JsonOutput.h"
 #include "PdfReport.h"
 #include "ProjectFile.h"
+#include "SweepCommand.h"
 #include "TextReport.h"
 
 #include "Calculate.h"
@@ -50,6 +51,11 @@ int main(int argc, char *argv[])
             std::cerr << errorLine(message);
         return ExitFileNotLoaded;
     }
+
+    if (!commandLine.sweeps.empty())
+        return runSweepCommand(commandLine, project, std::cout, std::cerr);
+    if (commandLine.solve)
+        return runSolveCommand(commandLine, project, std::cout, std::cerr);
 
     const CalculationOutcome outcome = Calculate(project);
     if (commandLine.json)

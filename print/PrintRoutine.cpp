@@ -92,7 +92,8 @@ QString suggestedPdfPath(const ReportSource &source, const QString &dataFolder)
 }
 
 bool writeReportPdf(const QString &pdfPath, const SwaleProject &project, const ReportSource &source,
-                    const ReportPageSetup &setup, const PageMargins &margins, QString *error)
+                    const ReportPageSetup &setup, const PageMargins &margins, QString *error,
+                    const std::vector<ReportSection> &extraSections)
 {
     QSaveFile file(pdfPath);
     if (!file.open(QIODevice::WriteOnly)) {
@@ -106,7 +107,8 @@ bool writeReportPdf(const QString &pdfPath, const SwaleProject &project, const R
         writer.setTitle(documentTitle(project));
         writer.setCreator(QString::fromUtf8(kProgramTitle));
         applySetup(writer, setup);
-        const ReportContent content = buildReportContent(project, source);
+        ReportContent content = buildReportContent(project, source);
+        content.sections.insert(content.sections.end(), extraSections.begin(), extraSections.end());
         if (!paintReport(writer, content, marginsInPoints(margins), error))
             return false;
     }
@@ -150,7 +152,8 @@ bool PrintRoutine::printReport(const SwaleProject &project, const ReportSource &
     if (!m_prompts.askPrinter(printer))
         return false;
     printer.setFullPage(true);
-    const ReportContent content = buildReportContent(project, source);
+    ReportContent content = buildReportContent(project, source);
+    content.sections.insert(content.sections.end(), m_extraSections.begin(), m_extraSections.end());
     if (!paintReport(printer, content, marginsInPoints(currentMargins()))) {
         m_prompts.ShowErrorMessage(noPrinter, MessageStyle::Exclamation,
                                    QLatin1String(kErrorTitle));
@@ -176,7 +179,7 @@ bool PrintRoutine::exportPdf(const SwaleProject &project, const ReportSource &so
     const QString path = m_prompts.askPdfFileName(suggestedPdfPath(source, dataFolder));
     if (path.isEmpty())
         return false;
-    if (!writeReportPdf(path, project, source, m_setup, currentMargins())) {
+    if (!writeReportPdf(path, project, source, m_setup, currentMargins(), nullptr, m_extraSections)) {
         m_prompts.ShowErrorMessage(QLatin1String(kErrorWritingToFileMessage) + QLatin1Char('\r')
                                            + path,
                                    MessageStyle::Exclamation, QLatin1String(kErrorTitle));
@@ -195,7 +198,8 @@ QString PrintRoutine::printPreview(const SwaleProject &project, const ReportSour
     QPrinter printer(QPrinter::HighResolution);
     prepareForReport(printer, project, m_setup);
     printer.setFullPage(true);
-    const ReportContent content = buildReportContent(project, source);
+    ReportContent content = buildReportContent(project, source);
+    content.sections.insert(content.sections.end(), m_extraSections.begin(), m_extraSections.end());
     const QMarginsF margins = marginsInPoints(currentMargins());
     ReportPreviewDialog dialog(printer, [&content, margins](QPrinter &target) {
         paintReport(target, content, margins);

@@ -39,6 +39,8 @@
 #include <QMarginsF>
 #include <QString>
 
+#include <vector>
+
 class QPrinter;
 class QWidget;
 class ReportPreviewDialog;
@@ -98,6 +100,12 @@ public:
                          const QString &dataFolder);
 
     const ReportPageSetup &setup() const { return m_setup; }
+    // Sections printed after the report's own, such as the design explorer's page; none by
+    // default.
+    void setExtraSections(std::vector<ReportSection> sections)
+    {
+        m_extraSections = std::move(sections);
+    }
     // The margins of the next print: those chosen in Page Setup, else Margins.ini read now.
     PageMargins currentMargins() const;
 
@@ -107,6 +115,7 @@ private:
     PrintPrompts &m_prompts;
     QString m_programFolder;
     ReportPageSetup m_setup;
+    std::vector<ReportSection> m_extraSections;
 };
 
 // The record's margins in points as left, top, right, bottom.
@@ -116,9 +125,10 @@ QMarginsF marginsInPoints(const PageMargins &margins);
 // its name with ".pdf" in `dataFolder`; "Swale report.pdf" there for another untitled project.
 QString suggestedPdfPath(const ReportSource &source, const QString &dataFolder);
 
-// Writes the report of `project` to `pdfPath` on the paper of `setup` with `margins`. The file
-// is replaced only once the whole report was written. Returns false with the reason in `error`.
-// Needs a QGuiApplication (fonts).
-bool writeReportPdf(const QString &pdfPath, const SwaleProject &project, const ReportSource &source,
-                    const ReportPageSetup &setup, const PageMargins &margins,
-                    QString *error = nullptr);
+// Writes the report of `project` to `pdfPath` on the paper of `setup` with `margins`, followed
+// by `extraSections`. The file is replaced only once the whole report was written. Returns false
+// with the reason in `error`. Needs a QGuiApplication (fonts).
+bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
+                    const ReportSource &source, const ReportPageSetup &setup,
+                    const PageMargins &margins, QString *error = nullptr,
+                    const std::vector<ReportSection> &extraSections = {});

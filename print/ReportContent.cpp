@@ -174,7 +174,11 @@ ReportContent buildReportContent(const SwaleProject &project, const ReportSource
         content.titleFields.push_back(field);
     }
     const QString fileText = source.projectFileText();
-    content.titleFields.push_back({ QStringLiteral("Project File"), fileText, QString(), false, QString() });
+    ReportField fileField;
+    fileField.caption = QStringLiteral("Project File");
+    fileField.value = fileText;
+    fileField.numeric = false;
+    content.titleFields.push_back(fileField);
     content.jobName = content.titleFields.front().value;
     content.projectFileName = fileText;
     content.sections.push_back(inputSection(project));

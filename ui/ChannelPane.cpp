@@ -6,9 +6,8 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
-#include <QMenuBar>
 
-ChannelPane buildChannelPane(QMainWindow &window, QMenu &helpMenu)
+ChannelPane buildChannelPane(QMainWindow &window, QMenu &viewMenu)
 {
     ChannelPane pane;
     pane.dock = new QDockWidget(QStringLiteral("Channel"), &window);
@@ -19,13 +18,11 @@ ChannelPane buildChannelPane(QMainWindow &window, QMenu &helpMenu)
     pane.dock->setWidget(pane.checks);
     window.addDockWidget(Qt::RightDockWidgetArea, pane.dock);
 
-    pane.mnuView = new QMenu(QStringLiteral("&View"), &window);
-    pane.mnuView->setObjectName(QStringLiteral("mnuView"));
-    window.menuBar()->insertMenu(helpMenu.menuAction(), pane.mnuView);
+    pane.mnuView = &viewMenu;
     // The dock's own toggle action follows the pane however it is closed or shown.
     pane.mnuView_ChannelPane = pane.dock->toggleViewAction();
     pane.mnuView_ChannelPane->setText(QStringLiteral("&Channel Pane"));
     pane.mnuView_ChannelPane->setObjectName(QStringLiteral("mnuView_ChannelPane"));
-    pane.mnuView->addAction(pane.mnuView_ChannelPane);
+    viewMenu.insertAction(viewMenu.actions().value(0), pane.mnuView_ChannelPane);
     return pane;
 }

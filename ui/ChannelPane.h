@@ -7,8 +7,8 @@ class QMainWindow;
 class QMenu;
 
 // The channel pane: a dock on the right of the main window (object name "channelDock", title
-// "Channel") that shows the hydraulic checks beside the pages, with a "&View" menu between File
-// and Help whose checkable "&Channel Pane" shows and hides it.
+// "Channel") that shows the hydraulic checks beside the pages; the checkable "&Channel Pane" of
+// the "&View" menu shows and hides it.
 struct ChannelPane
 {
     QDockWidget *dock = nullptr;
@@ -17,5 +17,5 @@ struct ChannelPane
     ChecksPanel *checks = nullptr;
 };
 
-// Builds the pane in `window`, its View menu placed before `helpMenu`.
-ChannelPane buildChannelPane(QMainWindow &window, QMenu &helpMenu);
+// Builds the pane in `window` and adds its entry to `viewMenu`.
+ChannelPane buildChannelPane(QMainWindow &window, QMenu &viewMenu);

@@ -77,6 +77,15 @@ void buildFileMenu(QMainWindow &window, MainMenus &menus)
     menus.mnuFile_Print->setShortcut(QKeySequence::Print);
 }
 
+void buildViewMenu(QMainWindow &window, MainMenus &menus)
+{
+    QMenu *view = window.menuBar()->addMenu(QStringLiteral("&View"));
+    view->setObjectName(QStringLiteral("mnuView"));
+    menus.mnuView = view;
+    menus.mnuView_DesignExplorer
+            = addAction(view, "mnuView_DesignExplorer", QStringLiteral("&Design Explorer..."));
+}
+
 void buildHelpMenus(QMainWindow &window, MainMenus &menus)
 {
     QMenu *help = window.menuBar()->addMenu(QStringLiteral("&Help"));
@@ -145,6 +154,7 @@ MainMenus buildMainMenus(QMainWindow &window)
 {
     MainMenus menus;
     buildFileMenu(window, menus);
+    buildViewMenu(window, menus);
     buildHelpMenus(window, menus);
     buildToolbar(window, menus);
     return menus;

@@ -27,6 +27,11 @@ struct MainMenus
     QAction *cmdFile_Example = nullptr;
     QAction *mnuFile_Exit = nullptr;
 
+    // Between File and Help: the panes and windows beside the three tabs (the channel pane adds
+    // its entry first).
+    QMenu *mnuView = nullptr;
+    QAction *mnuView_DesignExplorer = nullptr;
+
     QMenu *mnuHelp = nullptr;
     std::vector<QAction *> helpTopics; // one entry per topic of kHelpTopics, in its order
     QMenu *mnuHelp_Image = nullptr;

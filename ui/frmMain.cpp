@@ -1,5 +1,7 @@
 #include "frmMain.h"
 
+#include "DesignExplorer.h"
+
 #include "Calculate.h"
 #include "ChecksPanel.h"
 #include "HelpImagePanel.h"
@@ -221,6 +223,7 @@ void frmMain::connectCommands()
     for (QAction *topic : m.helpTopics)
         connect(topic, &QAction::triggered, this,
                 [this, topic] { showHelpFile(topic->data().toString()); });
+    connect(m.mnuView_DesignExplorer, &QAction::triggered, this, &frmMain::showDesignExplorer);
 
     connect(cmdCalculate, &QPushButton::clicked, this, &frmMain::calculateCommand);
     connect(m_inputPage, &InputPage::inputEdited, this, &frmMain::onInputEdited);
@@ -428,6 +431,25 @@ void frmMain::showAbout()
 {
     frmAbout about(m_versionText, this);
     about.exec();
+}
+
+void frmMain::showDesignExplorer()
+{
+    if (!m_designExplorer) {
+        ExplorerHooks hooks;
+        hooks.project = [this] { return currentProject(); };
+        // Typing into the box runs the edit path of the window: results cleared, data changed.
+        hooks.putValue = [this](int box, const QString &text) { txtInput(box)->setText(text); };
+        hooks.dataFolder = [this] { return GetDataFolder(); };
+        hooks.reportSections = [this](std::vector<ReportSection> sections) {
+            m_printRoutine->setExtraSections(std::move(sections));
+        };
+        m_designExplorer = new DesignExplorer(m_prompts, std::move(hooks), this);
+    }
+    m_designExplorer->refreshChoices();
+    m_designExplorer->show();
+    m_designExplorer->raise();
+    m_designExplorer->activateWindow();
 }
 
 void frmMain::showHelpTopic(int topic)

@@ -12,6 +12,7 @@
 #include <array>
 #include <memory>
 
+class DesignExplorer;
 class HelpImagePanel;
 class InputPage;
 class KeyboardNavigator;
@@ -59,6 +60,7 @@ public:
     QPushButton *calculateButton() const { return cmdCalculate; }
     const MainMenus &menus() const { return m_menus; }
     const ChannelPane &channelPane() const { return m_channelPane; }
+    DesignExplorer *designExplorer() const { return m_designExplorer; }
     QString versionText() const { return m_versionText; }
     // Whether tab `tab`'s panel may be shown: set once the panels were sized to the tab.
     bool isPanelShown(int tab) const { return m_panelShown[static_cast<size_t>(tab)]; }
@@ -101,6 +103,8 @@ public slots:
     void exportPdfCommand();
     void printPreviewCommand();
     void showAbout();
+    // View > Design Explorer...: opens (or brings forward) the explorer on this document.
+    void showDesignExplorer();
     void showHelpTopic(int topic);
     // Opens help topic `file` ("1.html") of the help folder; nothing happens when it is missing.
     void showHelpFile(const QString &file);
@@ -160,6 +164,7 @@ private:
     HelpImagePanel *m_helpImage = nullptr;
     KeyboardNavigator *m_keyboard = nullptr;
     QPushButton *cmdCalculate = nullptr;
+    DesignExplorer *m_designExplorer = nullptr; // made on first use, kept while the window lives
 
     QString m_currentFilePath; // "" for an untitled project
     QString m_examplePath; // the example an untitled project was opened from, else ""

@@ -10,7 +10,7 @@
 
 void frmMain::buildChannelPane()
 {
-    m_channelPane = ::buildChannelPane(*this, *m_menus.mnuHelp);
+    m_channelPane = ::buildChannelPane(*this, *m_menus.mnuView);
     connect(m_channelPane.checks, &ChecksPanel::helpRequested, this,
             [this] { showHelpFile(QLatin1String(kChecksHelpTopic)); });
 }

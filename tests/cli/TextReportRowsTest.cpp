@@ -6,16 +6,19 @@
 
 namespace {
 
-// Result rows of the readable report are the lines indented by two blanks.
+// Result rows of the readable report are the lines indented by two blanks, up to the block of
+// hydraulic checks that follows them.
 int resultRowCount(const std::string &report)
 {
     int rows = 0;
     size_t start = 0;
-    while (start < report.size()) {
+    const size_t checks = report.find("\nHydraulic checks\n");
+    const size_t stop = checks == std::string::npos ? report.size() : checks;
+    while (start < stop) {
         const size_t end = report.find('\n', start);
         if (report.compare(start, 2, "  ") == 0)
             ++rows;
-        start = end == std::string::npos ? report.size() : end + 1;
+        start = end == std::string::npos ? stop : end + 1;
     }
     return rows;
 }
