@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSaveFile>
@@ -39,28 +38,23 @@ bool PrintPrompts::hasPrinter() const
     return !QPrinterInfo::availablePrinters().isEmpty();
 }
 
-bool SystemPrintDialogs::askPrinter(QPrinter &printer)
-{
-    QPrintDialog dialog(&printer, m_parent);
-    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    return dialog.exec() == QDialog::Accepted;
-}
-
-bool SystemPrintDialogs::askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins)
-{
-    PageSetupDialog dialog(setup, fileMargins, m_parent);
-    if (dialog.exec() != QDialog::Accepted)
-        return false;
-    setup = dialog.setup();
-    return true;
-}
-
 QMarginsF marginsInPoints(const PageMargins &margins)
 {
     return QMarginsF(
             marginInPoints(margins, margins.Margin1), marginInPoints(margins, margins.Margin2),
             marginInPoints(margins, margins.Margin4), marginInPoints(margins, margins.Margin3));
+}
+
+FileDialogRequest pdfFileRequest(const QString &suggestedPath)
+{
+    const QFileInfo suggested(suggestedPath);
+    FileDialogRequest request;
+    request.initialFolder = suggested.absolutePath() + QLatin1Char('/');
+    request.fileName = suggested.fileName();
+    request.filters = { QStringLiteral("PDF Files (*.pdf)") };
+    request.defaultSuffix = QStringLiteral("pdf");
+    request.flags = FileDialogRequest::OverwritePrompt | FileDialogRequest::PathMustExist;
+    return request;
 }
 
 QString suggestedPdfPath(const QString &projectFilePath, const QString &dataFolder)
@@ -154,7 +148,8 @@ bool PrintRoutine::pageSetup()
 bool PrintRoutine::exportPdf(const SwaleProject &project, const QString &projectFilePath,
                              const QString &dataFolder)
 {
-    const QString path = m_prompts.askPdfFileName(suggestedPdfPath(projectFilePath, dataFolder));
+    const QString path = m_prompts.askSaveFileName(
+            pdfFileRequest(suggestedPdfPath(projectFilePath, dataFolder)));
     if (path.isEmpty())
         return false;
     if (!writeReportPdf(path, project, projectFilePath, m_setup, currentMargins())) {

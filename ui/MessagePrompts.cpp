@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 
 namespace {
@@ -112,4 +114,21 @@ QString MessagePrompts::askSaveFileName(const FileDialogRequest &request)
 RecoveryAnswer MessagePrompts::askRecovery(const QList<RecoveryOffer> &offers)
 {
     return askRecoveryInDialog(offers, QApplication::activeWindow());
+}
+
+bool MessagePrompts::askPrinter(QPrinter &printer)
+{
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+bool MessagePrompts::askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins)
+{
+    PageSetupDialog dialog(setup, fileMargins, QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    setup = dialog.setup();
+    return true;
 }
