@@ -18,6 +18,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QPushButton>
 #include <QDir>
 #include <QRadioButton>
 #include <QScrollBar>

@@ -151,7 +151,7 @@ TEST_F(HostileSettings, TheGuardRefusesWhatIsNoSettingsFile)
     };
     for (const auto &[kind, name] : cases) {
         SCOPED_TRACE(name);
-        const std::string path = m_root.file(name);
+        const std::string path = m_root.file("settings" + std::to_string(static_cast<int>(kind)));
         makeHostile(kind, path, "Width=9000\r\n");
         std::unique_ptr<OrdinaryUser> user;
         if (kind == Hostile::Unreadable) {

@@ -49,8 +49,8 @@ void tst_ReportPdf::everyPhraseLandsInsideTheMargins()
                            "tie-in at the ditch-bottom inlet DBI-7 and the outfall to pond 3";
     project.inputText[17]
             = "Turf reinforcement mat (TRM) over compacted clay liner, seeded with Bermuda grass";
-    PageMargins margins; // one inch all round, in thousandths of an inch
-    margins.Margin1 = margins.Margin2 = margins.Margin3 = margins.Margin4 = 1000;
+    const PageMargins margins; // the defaults, as without a Margins.ini
+    const QMarginsF inPoints = marginsInPoints(margins);
     const QString path = render(project, QStringLiteral("method 1"), margins);
     const PdfProbe pdf(path);
     QVERIFY2(pdf.isValid(), qPrintable(pdf.errorString()));
@@ -73,7 +73,8 @@ void tst_ReportPdf::everyPhraseLandsInsideTheMargins()
     }
     for (const PdfWord &word : pdf.words()) {
         const PdfPageSize page = pdf.pageSize(word.page);
-        QVERIFY2(word.box.left() >= 72 - 1.0 && word.box.right() <= page.width - 72 + 1.0,
+        QVERIFY2(word.box.left() >= inPoints.left() - 1.0
+                         && word.box.right() <= page.width - inPoints.right() + 1.0,
                  qPrintable(word.text));
     }
     for (int page = 1; page <= pdf.pageCount(); ++page) {

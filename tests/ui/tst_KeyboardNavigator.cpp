@@ -1,5 +1,6 @@
 #include "KeyboardNavigator.h"
 #include "PageFixtures.h"
+#include "RdcGridA.h"
 #include "tvrEditBox.h"
 
 #include <QAbstractButton>
@@ -54,6 +55,8 @@ QWidget *tst_KeyboardNavigator::control(const QString &name) const
     auto *widget = m_window->findChild<QWidget *>(name);
     if (auto *box = qobject_cast<tvrEditBox *>(widget))
         return box->editor();
+    if (auto *grid = qobject_cast<RdcGridA *>(widget)) // the grid's drawing surface takes the keys
+        return grid->findChild<QWidget *>(QStringLiteral("pic"));
     return widget;
 }
 

@@ -17,7 +17,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QRegularExpression>
 #include <QTabWidget>
@@ -129,7 +132,9 @@ void tst_frmMain::cleanup()
 
 void tst_frmMain::showActive()
 {
-    showActive();
+    m_fx.window->show();
+    QApplication::setActiveWindow(m_fx.window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_fx.window.get()));
 }
 
 void tst_frmMain::openExample(int index)
