@@ -11,13 +11,14 @@ run: build
 test: build
 	cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
 
-# The whole suite again, built with AddressSanitizer and UndefinedBehaviorSanitizer. Leaks inside
-# Qt's platform and font libraries are not ours: tests/sanitizers/lsan.supp names them.
+# The whole suite again, built with AddressSanitizer and UndefinedBehaviorSanitizer: only the
+# test programs and what they run (swale_tests), not the window program, the demos or the tools.
+# Leaks inside Qt's platform and font libraries are not ours: tests/sanitizers/lsan.supp names them.
 SAN_BUILD_DIR ?= build-asan
 test-sanitized: deps
 	@if [ ! -f $(SAN_BUILD_DIR)/build.ninja ]; then \
 	    cmake -S . -B $(SAN_BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DSWALE_SANITIZE=ON; fi
-	cmake --build $(SAN_BUILD_DIR) -j $(JOBS)
+	cmake --build $(SAN_BUILD_DIR) -j $(JOBS) --target swale_tests
 	cd $(SAN_BUILD_DIR) && \
 	    ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 \
 	    LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitizers/lsan.supp:print_suppressions=0 \
@@ -51,7 +52,7 @@ clean:
 	rm -rf $(BUILD_DIR)
 
 # libFuzzer targets (clang with sanitizers) in their own build folder, each run FUZZ_TIME seconds.
-FUZZ_TIME ?= 60
+FUZZ_TIME ?= 45
 FUZZ_BUILD_DIR ?= build-fuzz
 
 .PHONY: fuzz

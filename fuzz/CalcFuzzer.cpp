@@ -9,44 +9,25 @@
 #include "Calculate.h"
 #include "FuzzScratch.h"
 #include "NumberText.h"
+#include "NumberTexts.h"
 #include "OutputTable.h"
 
-#include <cctype>
 #include <cstdint>
 #include <string>
 
 namespace {
 constexpr int kMaxRatingRows = 60;
 
-std::string lowerCase(std::string text)
-{
-    for (char &c : text)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return text;
-}
-
-// Output texts are numbers: neither "nan" nor "inf" may appear anywhere in them.
 void expectNumberText(const std::string &text, const char *what)
 {
-    const std::string lower = lowerCase(text);
-    if (lower.find("nan") != std::string::npos || lower.find("inf") != std::string::npos)
+    if (holdsNanOrInf(text))
         invariantBroken(std::string(what) + " \"" + text + "\" is not displayable");
 }
 
-// Messages are words ("infiltration" is one): "nan", "inf" and "infinity" must not stand as a
-// word of their own, as printf would write them into a message.
 void expectMessageText(const std::string &text, const char *what)
 {
-    const std::string lower = lowerCase(text);
-    const auto isLetter = [&lower](size_t i) {
-        return i < lower.size() && std::isalpha(static_cast<unsigned char>(lower[i]));
-    };
-    for (const std::string word : { "nan", "inf", "infinity" }) {
-        for (size_t at = lower.find(word); at != std::string::npos; at = lower.find(word, at + 1)) {
-            if ((at == 0 || !isLetter(at - 1)) && !isLetter(at + word.size()))
-                invariantBroken(std::string(what) + " \"" + text + "\" is not displayable");
-        }
-    }
+    if (holdsNanOrInfWord(text))
+        invariantBroken(std::string(what) + " \"" + text + "\" is not displayable");
 }
 
 SwaleProject projectFrom(const uint8_t *data, size_t size)

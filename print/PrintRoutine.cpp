@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSaveFile>
@@ -45,32 +44,9 @@ bool PrintPrompts::hasPrinter() const
     return !QPrinterInfo::availablePrinters().isEmpty();
 }
 
-bool SystemPrintDialogs::askPrinter(QPrinter &printer)
-{
-    QPrintDialog dialog(&printer, m_parent);
-    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    return dialog.exec() == QDialog::Accepted;
-}
-
 void PrintPrompts::showPreview(ReportPreviewDialog &dialog)
 {
     dialog.exec();
-}
-
-void SystemPrintDialogs::showPreview(ReportPreviewDialog &dialog)
-{
-    dialog.setParent(m_parent, dialog.windowFlags());
-    dialog.exec();
-}
-
-bool SystemPrintDialogs::askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins)
-{
-    PageSetupDialog dialog(setup, fileMargins, m_parent);
-    if (dialog.exec() != QDialog::Accepted)
-        return false;
-    setup = dialog.setup();
-    return true;
 }
 
 QMarginsF marginsInPoints(const PageMargins &margins)
@@ -78,6 +54,18 @@ QMarginsF marginsInPoints(const PageMargins &margins)
     return QMarginsF(
             marginInPoints(margins, margins.Margin1), marginInPoints(margins, margins.Margin2),
             marginInPoints(margins, margins.Margin4), marginInPoints(margins, margins.Margin3));
+}
+
+FileDialogRequest pdfFileRequest(const QString &suggestedPath)
+{
+    const QFileInfo suggested(suggestedPath);
+    FileDialogRequest request;
+    request.initialFolder = suggested.absolutePath() + QLatin1Char('/');
+    request.fileName = suggested.fileName();
+    request.filters = { QStringLiteral("PDF Files (*.pdf)") };
+    request.defaultSuffix = QStringLiteral("pdf");
+    request.flags = FileDialogRequest::OverwritePrompt | FileDialogRequest::PathMustExist;
+    return request;
 }
 
 QString suggestedPdfPath(const ReportSource &source, const QString &dataFolder)
@@ -176,7 +164,8 @@ bool PrintRoutine::pageSetup()
 bool PrintRoutine::exportPdf(const SwaleProject &project, const ReportSource &source,
                              const QString &dataFolder, QString *writtenPath)
 {
-    const QString path = m_prompts.askPdfFileName(suggestedPdfPath(source, dataFolder));
+    const QString path = m_prompts.askSaveFileName(
+            pdfFileRequest(suggestedPdfPath(source, dataFolder)));
     if (path.isEmpty())
         return false;
     if (!writeReportPdf(path, project, source, m_setup, currentMargins(), nullptr, m_extraSections)) {

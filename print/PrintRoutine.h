@@ -4,10 +4,8 @@
 // PDF writer that the command-line tool shares.
 //
 // How the window uses it:
-//   - Derive the window's print prompts from SystemPrintDialogs (real print and page-setup
-//     dialogs) and implement ShowErrorMessage (forward to the window's own, which beeps first)
-//     and askPdfFileName (the window's Save dialog, filter "PDF Files (*.pdf)"). Tests derive
-//     from PrintPrompts instead and script every answer.
+//   - The window's prompts (Prompts.h) serve the print commands too: the program's real ones
+//     show the system print and page-setup dialogs, the tests' double scripts every answer.
 //   - Own one PrintRoutine for the window's life, made with those prompts and the program folder
 //     (GlobalData::programFolder), so that Page Setup choices last until the program ends.
 //   - Print (mnuFile_Print, toolbar "Print"), only while the results are valid:
@@ -34,6 +32,7 @@
 #include "PageMargins.h"
 #include "PageSetupDialog.h"
 #include "ReportContent.h"
+#include "Prompts.h"
 #include "SwaleProject.h"
 
 #include <QMarginsF>
@@ -41,46 +40,9 @@
 
 #include <vector>
 
-class QPrinter;
-class QWidget;
 class ReportPreviewDialog;
 
 extern const char *const kNoPrinterMessage; // "Unable to establish connection with printer."
-
-// The dialogs and messages of the print commands, behind one interface so that tests run them
-// headless with scripted answers.
-class PrintPrompts
-{
-public:
-    virtual ~PrintPrompts() = default;
-    // The window's message procedure: beep, then a modal box; style 48 is exclamation and OK.
-    virtual int ShowErrorMessage(const QString &message, int style, const QString &title) = 0;
-    // The system print dialog on `printer`; false when cancelled.
-    virtual bool askPrinter(QPrinter &printer) = 0;
-    // The Page Setup dialog; `fileMargins` are those of Margins.ini. False when cancelled.
-    virtual bool askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins) = 0;
-    // A file name for the PDF, starting at `suggestedPath`; "" when cancelled.
-    virtual QString askPdfFileName(const QString &suggestedPath) = 0;
-    // Whether a printer is installed at all.
-    virtual bool hasPrinter() const;
-    // Shows the Print Preview until the user closes it.
-    virtual void showPreview(ReportPreviewDialog &dialog);
-};
-
-// The real print and page-setup dialogs, parented to `parent`.
-class SystemPrintDialogs : public PrintPrompts
-{
-public:
-    explicit SystemPrintDialogs(QWidget *parent)
-        : m_parent(parent)
-    { }
-    bool askPrinter(QPrinter &printer) override;
-    bool askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins) override;
-    void showPreview(ReportPreviewDialog &dialog) override;
-
-private:
-    QWidget *m_parent;
-};
 
 class PrintRoutine
 {
@@ -120,6 +82,9 @@ private:
 
 // The record's margins in points as left, top, right, bottom.
 QMarginsF marginsInPoints(const PageMargins &margins);
+
+// What Export PDF asks the Save dialog for: `suggestedPath` proposed, filter "PDF Files (*.pdf)".
+FileDialogRequest pdfFileRequest(const QString &suggestedPath);
 
 // The file name the Export PDF dialog suggests: the project's path with ".pdf"; for an example,
 // its name with ".pdf" in `dataFolder`; "Swale report.pdf" there for another untitled project.

@@ -1,11 +1,15 @@
 #include "MessagePrompts.h"
 
+#include "ReportPreviewDialog.h"
+
 #include "RecoveryDialog.h"
 
 #include <QApplication>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QScreen>
 #include <QTreeView>
@@ -138,4 +142,27 @@ QString MessagePrompts::askSaveFileName(const FileDialogRequest &request)
 RecoveryAnswer MessagePrompts::askRecovery(const QList<RecoveryOffer> &offers)
 {
     return askRecoveryInDialog(offers, QApplication::activeWindow());
+}
+
+bool MessagePrompts::askPrinter(QPrinter &printer)
+{
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+bool MessagePrompts::askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins)
+{
+    PageSetupDialog dialog(setup, fileMargins, QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    setup = dialog.setup();
+    return true;
+}
+
+void MessagePrompts::showPreview(ReportPreviewDialog &dialog)
+{
+    dialog.setParent(QApplication::activeWindow(), dialog.windowFlags());
+    dialog.exec();
 }

@@ -19,7 +19,6 @@
 #include "ScrollingPage.h"
 #include "Version.h"
 #include "WindowPlacementFiles.h"
-#include "WindowPrintPrompts.h"
 #include "ctrlPictureViewer.h"
 #include "frmAbout.h"
 #include "tvrEditBox.h"
@@ -46,8 +45,7 @@ constexpr int kResultsTab = 1;
 constexpr QSize kDesignedSize(960, 760);
 } // namespace
 
-frmMain::frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *printPrompts,
-                 QWidget *parent)
+frmMain::frmMain(PrintPrompts &prompts, const GlobalData &folders, QWidget *parent)
     : QMainWindow(parent)
     , m_prompts(prompts)
     , m_folders(folders)
@@ -57,12 +55,8 @@ frmMain::frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *prin
     // (the defaults of CalcSettings); the folders were worked out before the window was made.
     m_calcSettings = CalcSettings {};
     m_versionText = ::versionText(programRevision());
-    if (!printPrompts) {
-        m_ownPrintPrompts = std::make_unique<WindowPrintPrompts>(prompts, this);
-        printPrompts = m_ownPrintPrompts.get();
-    }
     m_printRoutine = std::make_unique<PrintRoutine>(
-            *printPrompts, QString::fromStdString(m_folders.programFolder));
+            prompts, QString::fromStdString(m_folders.programFolder));
     m_menus = buildMainMenus(*this);
     m_recentFiles
             = std::make_unique<RecentFilesMenu>(m_menus.mnuFile_Recent, m_menus.mnuFile_Separator3);

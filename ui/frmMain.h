@@ -18,7 +18,6 @@ class InputPage;
 class KeyboardNavigator;
 class PrintPrompts;
 class PrintRoutine;
-class Prompts;
 class QPushButton;
 class QTabWidget;
 class RecentFilesMenu;
@@ -37,16 +36,14 @@ enum OpenMode { OpenNormal = 1, OpenExample = 2 };
 // The main window: it owns the one open project (the document), held in the controls of the
 // Input Data and Results pages, with its file path, its data folder and the data changed and
 // results valid flags. It carries the file commands, the Calculate command and the unsaved-data
-// question; every message and file dialog goes through the Prompts it is given.
+// question; every message and dialog, the print commands' included, goes through the prompts it
+// is given.
 class frmMain : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    // `printPrompts` serves the print commands' dialogs; without one the window uses the system
-    // print and page-setup dialogs with its own messages.
-    frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *printPrompts = nullptr,
-            QWidget *parent = nullptr);
+    frmMain(PrintPrompts &prompts, const GlobalData &folders, QWidget *parent = nullptr);
     ~frmMain() override;
 
     // --- Controls, for the pages' owner and the tests ------------------------------------
@@ -145,10 +142,9 @@ private:
     QWidget *tabPanel(int tab) const;
     void onTabChanged(int tab);
 
-    Prompts &m_prompts;
+    PrintPrompts &m_prompts;
     const GlobalData &m_folders;
     CalcSettings m_calcSettings;
-    std::unique_ptr<PrintPrompts> m_ownPrintPrompts;
     std::unique_ptr<PrintRoutine> m_printRoutine;
     QString m_versionText;
 

@@ -1,5 +1,6 @@
 #include "Calculate.h"
-#include "ProjectFixtures.h"
+#include "Fixtures.h"
+#include "OutputTable.h"
 #include "Results.h"
 
 #include <gtest/gtest.h>
@@ -39,17 +40,6 @@ TEST(Calculate, ShowsSevenDigitsWithALeadingZero)
     EXPECT_EQ(out.results[7], "0.3063346");
     EXPECT_EQ(out.results[14], "1");
     EXPECT_EQ(out.results[16], "0.0274881");
-}
-
-TEST(Calculate, PutsTheResultsOnTheClipboardInFiveGroups)
-{
-    const CalculationOutcome out = Calculate(validProject(4));
-    ASSERT_EQ(out.status, Status::Ok);
-    const auto &r = out.results;
-    const std::string expected = "\r\n\r\n" + r[3] + "\r\n\r\n" + r[4] + "\r\n" + r[5] + "\r\n"
-            + r[6] + "\r\n\r\n" + r[7] + "\r\n" + r[8] + "\r\n" + r[9] + "\r\n" + r[10] + "\r\n"
-            + r[11] + "\r\n\r\n" + r[12] + "\r\n" + r[13] + "\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
-    EXPECT_EQ(out.clipboardText, expected);
 }
 
 TEST(Calculate, ReportsValidationFaultsAndFailuresInTheWindowsOrder)
@@ -96,18 +86,36 @@ TEST(Calculate, RefusesAResultTooLargeForSinglePrecision)
         EXPECT_EQ(text, "");
 }
 
-TEST(Calculate, GivesTheSameTextsTwice)
+TEST(OutputTable, CaptionsFollowTheChosenOptions)
 {
-    for (int method = 1; method <= 4; ++method) {
-        const SwaleProject p = validProject(method, 2);
-        EXPECT_EQ(Calculate(p).results, Calculate(p).results);
+    struct Case { int box, method, flow; const char *caption; };
+    const Case cases[] = {
+        { 2, 3, 1, "Treatment/interception efficiency, [e]" },
+        { 2, 4, 1, "Treatment efficiency, [e]" },
+        { 2, 0, 0, "Treatment Efficiency, [e]" },
+        { 4, 1, 2, "Channel inflow rate, [Qp]" },
+        { 5, 1, 1, "Volume of runoff (treatment volume), [Vr]" },
+        { 5, 2, 2, "Inflow volume (treatment volume), [Vr]" },
+        { 16, 3, 1, "Potential dicharge rate at normal depth, [Qip]" },
+        { 17, 2, 1, "Computed max infiltration volume, [Vm]" },
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.caption);
+        EXPECT_STREQ(outputCaption(c.box, c.method, c.flow), c.caption);
     }
+    EXPECT_STREQ(resultGroupTitle(2, 1, 2), "Channel Inflow Calculations");
+    EXPECT_STREQ(resultGroupTitle(5, 3, 1), "Inlet Dicharge Calculations");
+    EXPECT_STREQ(resultGroupTitle(5, 4, 1), "Infiltration Calculations");
 }
 
-TEST(Results, TextsMendALeadingPeriodOnly)
+TEST(OutputTable, GroupsCoverEveryBoxOnce)
 {
-    EXPECT_EQ(resultText(0.5), "0.5");
-    EXPECT_EQ(resultText(-0.25), "-0.25");
-    EXPECT_EQ(resultText(12345678), "1.234568E+07");
-    EXPECT_EQ(resultText(0.1), "0.1");
+    int next = 1;
+    for (int g = 1; g <= 5; ++g) {
+        EXPECT_EQ(kOutputGroups[static_cast<size_t>(g)].first, next);
+        next = kOutputGroups[static_cast<size_t>(g)].last + 1;
+    }
+    EXPECT_EQ(next, kOutputCount + 1);
+    EXPECT_FALSE(isOutputFilled(1, 0));
+    EXPECT_FALSE(isOutputFilled(1, 5));
 }

@@ -1,4 +1,4 @@
-#include "ProjectFixtures.h"
+#include "Fixtures.h"
 #include "RatingCurve.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #include "SweepCsv.h"
 
 #include "NumberText.h"
-#include "ProjectFixtures.h"
+#include "Fixtures.h"
 
 #include <gtest/gtest.h>
 

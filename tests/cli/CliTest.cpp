@@ -1,72 +1,23 @@
+#include "CalcRunner.h"
 #include "CommandLine.h"
+#include "Files.h"
+#include "Fixtures.h"
 #include "JsonOutput.h"
-
 #include "ProjectFile.h"
-#include "TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <string>
-#include <sys/wait.h>
 #include <vector>
 
 namespace {
-struct CalcRun
-{
-    int exitCode = -1;
-    std::string out; // standard output only
-};
-
-std::string quoted(const std::string &argument)
-{
-    std::string out = "'";
-    for (const char c : argument)
-        out += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return out + "'";
-}
-
-CalcRun runCalc(const std::vector<std::string> &arguments)
-{
-    std::string command = quoted(SWALE_CALC_PATH);
-    for (const std::string &argument : arguments)
-        command += " " + quoted(argument);
-    command += " 2>/dev/null";
-    CalcRun run;
-    FILE *pipe = popen(command.c_str(), "r");
-    if (!pipe)
-        return run;
-    char buffer[4096];
-    size_t count = 0;
-    while ((count = fread(buffer, 1, sizeof buffer, pipe)) > 0)
-        run.out.append(buffer, count);
-    const int status = pclose(pipe);
-    run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
-}
-
-// A grassed channel under solution method `method` that calculates: 2 cfs for an hour.
-SwaleProject workingProject(int method)
-{
-    SwaleProject project;
-    project.solutionMethod = method;
-    project.channelFlowMethod = 2;
-    const std::pair<int, const char *> values[] = {
-        { 4, "300" }, { 5, "4" },  { 6, "3" },   { 7, "3" },  { 8, "0.01" },
-        { 9, "50" },  { 15, "2" }, { 16, "60" }, { 18, "5" }, { 19, "0.035" },
-        { 20, "2" },  { 21, "2" }, { 22, "35" }, { 23, "3" },
-    };
-    for (const auto &[box, text] : values)
-        project.inputText[static_cast<size_t>(box)] = text;
-    return project;
-}
 
 class SwaleCalcTest : public ::testing::Test
 {
 protected:
-    std::string saved(const SwaleProject &project)
+    std::string saved(const SwaleProject &project, const char *name = "case.swl")
     {
-        const std::string path = m_folder.file("case.swl");
+        const std::string path = m_folder.file(name);
         EXPECT_TRUE(saveProject(path, project).ok);
         return path;
     }
@@ -74,75 +25,54 @@ protected:
     TempFolder m_folder;
 };
 
-TEST_F(SwaleCalcTest, UsageErrorsExitWith64)
+// Every way the program ends, by its exit code; results of each method are the golden tests'.
+TEST_F(SwaleCalcTest, ExitCodes)
 {
-    const std::vector<std::vector<std::string>> cases = {
-        {}, { "--json" }, { "--frobnicate", "a.swl" }, { "a.swl", "b.swl" }, { "-x" },
+    const std::string good = saved(validProject(4, 2), "good.swl");
+    SwaleProject invalid = validProject(4, 2);
+    invalid.inputText[8] = "";
+    const std::string bad = saved(invalid, "invalid.swl");
+    writeBytes(m_folder.file("notes.swl"), "Shopping list\r\n");
+    const std::string pdf = m_folder.file("report.pdf");
+    struct Case
+    {
+        const char *name;
+        std::vector<std::string> arguments;
+        int exitCode;
+        const char *out;
     };
-    for (const auto &arguments : cases) {
-        const CalcRun run = runCalc(arguments);
-        EXPECT_EQ(run.exitCode, 64);
-        EXPECT_EQ(run.out, "") << "usage errors go to standard error";
-    }
-}
-
-TEST_F(SwaleCalcTest, HelpPrintsTheUsage)
-{
-    const CalcRun run = runCalc({ "--help" });
-    EXPECT_EQ(run.exitCode, 0);
-    EXPECT_EQ(run.out.rfind("Usage: swale-calc ", 0), 0u) << run.out;
-    EXPECT_NE(run.out.find("--json"), std::string::npos);
-    EXPECT_NE(run.out.find("64 usage error"), std::string::npos);
-}
-
-TEST_F(SwaleCalcTest, AMissingFileIsNamedAndExitsWith3)
-{
-    const std::string path = m_folder.file("nowhere.swl");
-    const CalcRun json = runCalc({ "--json", path });
-    EXPECT_EQ(json.exitCode, 3);
-    EXPECT_EQ(json.out.rfind("{\"status\": \"unreadable\", \"message\": \"Unable to open file: "
-                                     + path,
-                             0),
-              0u)
-            << json.out;
-    const CalcRun text = runCalc({ path });
-    EXPECT_EQ(text.exitCode, 3);
-    EXPECT_EQ(text.out, "");
-}
-
-TEST_F(SwaleCalcTest, AFileThatIsNoProjectExitsWith3)
-{
-    const std::string path = m_folder.file("notes.swl");
-    writeBytes(path, "Shopping list\r\n");
-    const CalcRun run = runCalc({ "--json", path });
-    EXPECT_EQ(run.exitCode, 3);
-    EXPECT_NE(run.out.find("not a project file"), std::string::npos) << run.out;
-}
-
-TEST_F(SwaleCalcTest, ResultsOfEveryMethod)
-{
-    for (int method = 1; method <= 4; ++method) {
-        SCOPED_TRACE(method);
-        SwaleProject project = workingProject(method);
-        if (method == 3) {
-            const char *const curve[][2] = { { "0", "0" }, { "6", "1.5" }, { "24", "9" } };
-            for (int row = 1; row <= 3; ++row) {
-                project.setRatingCurveCell(row, 1, curve[row - 1][0]);
-                project.setRatingCurveCell(row, 2, curve[row - 1][1]);
-            }
+    const Case cases[] = {
+        { "no arguments", {}, 64, "" },
+        { "unknown option", { "--frobnicate", good }, 64, "" },
+        { "help", { "--help" }, 0, "Usage: swale-calc " },
+        { "missing file",
+          { "--json", m_folder.file("nowhere.swl") },
+          3,
+          "{\"status\": \"unreadable\", \"message\": \"Unable to open file: " },
+        { "not a project",
+          { "--json", m_folder.file("notes.swl") },
+          3,
+          "{\"status\": \"unreadable\"" },
+        { "pdf without results", { "--pdf", pdf, bad }, ExitInvalidInput, "" },
+        { "pdf into no folder",
+          { "--pdf", m_folder.file("no folder/r.pdf"), good },
+          ExitPdfNotWritten,
+          "" },
+        { "pdf", { "--pdf", pdf, good }, ExitResults, "" },
+    };
+    for (const Case &row : cases) {
+        SCOPED_TRACE(row.name);
+        const CalcRun run = runCalc(row.arguments);
+        EXPECT_EQ(run.exitCode, row.exitCode);
+        EXPECT_EQ(run.out.rfind(row.out, 0), 0u) << run.out;
+        if (row.exitCode == 64) {
+            EXPECT_EQ(run.out, "") << "usage errors go to standard error";
         }
-        const CalcRun run = runCalc({ "--json", saved(project) });
-        EXPECT_EQ(run.exitCode, 0) << run.out;
-        EXPECT_EQ(run.out.rfind("{\"status\": \"ok\", \"results\": [", 0), 0u) << run.out;
-        const size_t open = run.out.find('[');
-        const size_t close = run.out.find(']');
-        EXPECT_EQ(run.out.substr(close, 14), "], \"checks\": {");
-        EXPECT_EQ(run.out.substr(run.out.size() - 3), "}}\n");
-        size_t commas = 0;
-        for (const char c : run.out.substr(open, close - open))
-            commas += c == ',';
-        EXPECT_EQ(commas, 17u) << "18 texts";
+        if (std::string(row.name) == "pdf without results") {
+            EXPECT_EQ(readBytes(pdf), "") << "no report without results";
+        }
     }
+    EXPECT_EQ(readBytes(pdf).rfind("%PDF-", 0), 0u);
 }
 
 struct FaultCase
@@ -150,7 +80,8 @@ struct FaultCase
     const char *name;
     void (*damage)(SwaleProject &);
     int exitCode;
-    const char *json;
+    const char *json; // the whole JSON output, or its start when `jsonEnd` is given
+    const char *jsonEnd = nullptr;
 };
 
 const FaultCase kFaults[] = {
@@ -162,9 +93,8 @@ const FaultCase kFaults[] = {
     { "rating-curve cell",
       [](SwaleProject &p) {
           p.solutionMethod = 3;
-          p.setRatingCurveCell(1, 1, "0");
-          p.setRatingCurveCell(1, 2, "0");
-          p.setRatingCurveCell(2, 1, "6");
+          p.clearRatingCurve();
+          setRatingCurve(p, { { "0", "0" }, { "6", "" } });
       },
       1,
       "{\"status\": \"invalid\", \"message\": \"Missing data.  (Rating curve:  Row 2, Col 2)\", "
@@ -172,12 +102,11 @@ const FaultCase kFaults[] = {
     { "normal depth beyond the rating curve",
       [](SwaleProject &p) {
           p.solutionMethod = 3;
-          p.setRatingCurveCell(1, 1, "0");
-          p.setRatingCurveCell(1, 2, "0");
-          p.setRatingCurveCell(2, 1, "1");
-          p.setRatingCurveCell(2, 2, "0.1");
+          p.clearRatingCurve();
+          setRatingCurve(p, { { "0", "0" }, { "1", "0.1" } });
       },
-      2, nullptr },
+      2, "{\"status\": \"failed\", \"messages\": [\"The normal depth of flow (",
+      " ft) exceeds the rating curve data.\", \"\"]}\n" },
     { "roughness of zero", [](SwaleProject &p) { p.inputText[19] = "0"; }, 2,
       "{\"status\": \"failed\", \"messages\": [\"Arithmetic error in the calculation: division by "
       "zero\"]}\n" },
@@ -187,12 +116,15 @@ TEST_F(SwaleCalcTest, FaultsGiveTheirShapesAndExitCodes)
 {
     for (const FaultCase &row : kFaults) {
         SCOPED_TRACE(row.name);
-        SwaleProject project = workingProject(4);
+        SwaleProject project = validProject(4, 2);
         row.damage(project);
         const std::string path = saved(project);
         const CalcRun json = runCalc({ "--json", path });
         EXPECT_EQ(json.exitCode, row.exitCode);
-        if (row.json) {
+        if (row.jsonEnd) {
+            EXPECT_EQ(json.out.rfind(row.json, 0), 0u) << json.out;
+            EXPECT_NE(json.out.find(row.jsonEnd), std::string::npos) << json.out;
+        } else {
             EXPECT_EQ(json.out, row.json);
         }
         const CalcRun text = runCalc({ path });
@@ -201,26 +133,9 @@ TEST_F(SwaleCalcTest, FaultsGiveTheirShapesAndExitCodes)
     }
 }
 
-TEST_F(SwaleCalcTest, BeyondTheRatingCurveGivesTwoMessages)
-{
-    SwaleProject project = workingProject(3);
-    project.setRatingCurveCell(1, 1, "0");
-    project.setRatingCurveCell(1, 2, "0");
-    project.setRatingCurveCell(2, 1, "1");
-    project.setRatingCurveCell(2, 2, "0.1");
-    const CalcRun run = runCalc({ "--json", saved(project) });
-    EXPECT_EQ(run.exitCode, 2);
-    EXPECT_EQ(run.out.rfind("{\"status\": \"failed\", \"messages\": [\"The normal depth of flow (",
-                            0),
-              0u)
-            << run.out;
-    EXPECT_NE(run.out.find(" ft) exceeds the rating curve data.\", \"\"]}\n"), std::string::npos)
-            << run.out;
-}
-
 TEST_F(SwaleCalcTest, TheReportShowsOnlyTheBoxesOfTheMethod)
 {
-    SwaleProject project = workingProject(4);
+    SwaleProject project = validProject(4, 2);
     project.inputText[1] = "Test job";
     const CalcRun run = runCalc({ saved(project) });
     ASSERT_EQ(run.exitCode, 0);
@@ -254,6 +169,9 @@ const ParseCase kParses[] = {
     { "no file", {}, false, false, false, "" },
     { "unknown option", { "--verbose" }, false, false, false, "" },
     { "two files", { "a.swl", "b.swl" }, false, false, false, "a.swl" },
+    { "pdf with its file name", { "--pdf", "out.pdf", "a.swl" }, true, false, false, "a.swl" },
+    { "pdf without a name", { "a.swl", "--pdf" }, false, false, false, "" },
+    { "pdf with an empty name", { "--pdf", "", "a.swl" }, false, false, false, "" },
 };
 
 TEST(CommandLine, Parses)
@@ -265,6 +183,8 @@ TEST(CommandLine, Parses)
         EXPECT_EQ(parseCommandLine(row.arguments, commandLine, error), row.ok);
         EXPECT_EQ(error.empty(), row.ok) << error;
         if (row.ok) {
+            EXPECT_EQ(commandLine.pdfPath,
+                      std::string(row.name).rfind("pdf", 0) == 0 ? "out.pdf" : "");
             EXPECT_EQ(commandLine.json, row.json);
             EXPECT_EQ(commandLine.help, row.help);
             EXPECT_EQ(commandLine.projectPath, row.path);

@@ -1,7 +1,7 @@
 #include "CommandLine.h"
 #include "SweepCommand.h"
 
-#include "ProjectFixtures.h"
+#include "Fixtures.h"
 
 #include <gtest/gtest.h>
 

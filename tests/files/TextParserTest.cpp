@@ -39,14 +39,11 @@ struct TokenCase
 // separating blank after each token.
 const TokenCase kBlankCases[] = {
     { "three words", "ab cd ef", { "ab", " cd", " ef" } },
-    { "two letters", "a b", { "a", " b" } },
     { "trailing blanks come back once", "a   ", { "a", "   " } },
     { "leading blanks belong to the first token", "  ab", { "  ab" } },
     { "double blank between words", "ab  cd", { "ab", "  cd" } },
-    { "single character", "x", { "x" } },
     { "blanks only", "   ", { "   " } },
     { "commas are not separators", "1.5,2.0", { "1.5,2.0" } },
-    { "a tab is not a separator", "a\tb c", { "a\tb", " c" } },
     { "empty text", "", {} },
 };
 
@@ -56,11 +53,7 @@ const TokenCase kDelimiterCases[] = {
     { "rating-curve row", "1.5,2.0", { "1.5", "2.0" } },
     { "blank after the comma stays", "1.5, 2.0", { "1.5", " 2.0" } },
     { "empty field absorbs its comma", "1.5,,2", { "1.5", ",2" } },
-    { "a lone comma is a token", ",", { "," } },
-    { "blank separated", "3 4", { "3", "4" } },
     { "tab separated", "3\t4", { "3", "4" } },
-    { "half-inch row", "0.5,1.25", { "0.5", "1.25" } },
-    { "three fields", "1,2,3", { "1", "2", "3" } },
     { "trailing comma", "1,", { "1" } },
     { "leading comma", ",5", { ",5" } },
     { "blank and comma", "1 ,2", { "1", ",2" } },
@@ -93,18 +86,6 @@ TEST(clsTextParserExt, CustomDelimitersReplaceTheDefaults)
     EXPECT_EQ(tokensOf(parser, "1,5;2 5"), (Tokens { "1,5", "2 5" }));
     parser.setCustomDelimiters("");
     EXPECT_EQ(tokensOf(parser, "1,5;2"), (Tokens { "1", "5;2" }));
-}
-
-TEST(TextParsers, EmptyTextGivesNoFirstToken)
-{
-    std::string token = "stale";
-    clsTextParser blanks;
-    EXPECT_FALSE(blanks.GetFirstToken(token));
-    EXPECT_EQ(token, "");
-    token = "stale";
-    clsTextParserExt delimiters;
-    EXPECT_FALSE(delimiters.GetFirstToken(token));
-    EXPECT_EQ(token, "");
 }
 
 TEST(TextParsers, GetFirstTokenStartsOver)

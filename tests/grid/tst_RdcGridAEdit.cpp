@@ -66,20 +66,8 @@ void tst_RdcGridAEdit::keys_data()
                           << range(3, 2, 3, 2);
     QTest::newRow("Up at the top")
             << QPoint(2, 1) << int(Qt::Key_Up) << none << QPoint(2, 1) << range(1, 2, 1, 2);
-    QTest::newRow("Left at column 1")
-            << QPoint(1, 2) << int(Qt::Key_Left) << none << QPoint(1, 2) << range(2, 1, 2, 1);
-    QTest::newRow("Right at the last column")
-            << QPoint(3, 2) << int(Qt::Key_Right) << none << QPoint(3, 2) << range(2, 3, 2, 3);
-    QTest::newRow("Down at the last row")
-            << QPoint(1, 10) << int(Qt::Key_Down) << none << QPoint(1, 10) << range(10, 1, 10, 1);
     QTest::newRow("Shift+Down extends")
             << QPoint(2, 2) << int(Qt::Key_Down) << shift << QPoint(2, 2) << range(2, 2, 3, 2);
-    QTest::newRow("Shift+Up extends upwards")
-            << QPoint(2, 2) << int(Qt::Key_Up) << shift << QPoint(2, 2) << range(1, 2, 2, 2);
-    QTest::newRow("Shift+Left at column 1")
-            << QPoint(1, 2) << int(Qt::Key_Left) << shift << QPoint(1, 2) << range(2, 1, 2, 1);
-    QTest::newRow("Shift+Right at the last column")
-            << QPoint(3, 2) << int(Qt::Key_Right) << shift << QPoint(3, 2) << range(2, 3, 2, 3);
     QTest::newRow("Enter walks right")
             << QPoint(2, 2) << int(Qt::Key_Return) << none << QPoint(3, 2) << range(2, 3, 2, 3);
     QTest::newRow("Enter wraps to the next row")
@@ -94,8 +82,6 @@ void tst_RdcGridAEdit::keys_data()
             << QPoint(2, 4) << int(Qt::Key_Home) << ctrlShift << QPoint(2, 4) << range(1, 1, 4, 2);
     QTest::newRow("End goes to the row's last column")
             << QPoint(1, 4) << int(Qt::Key_End) << none << QPoint(3, 4) << range(4, 3, 4, 3);
-    QTest::newRow("Shift+End") << QPoint(1, 4) << int(Qt::Key_End) << shift << QPoint(1, 4)
-                               << range(4, 1, 4, 3);
     // Data stands in (6, 1) and (2, 3): the last used row and column come from different cells.
     QTest::newRow("Ctrl+End goes to the last used cell")
             << QPoint(1, 1) << int(Qt::Key_End) << ctrl << QPoint(3, 6) << range(6, 3, 6, 3);
@@ -312,8 +298,6 @@ void tst_RdcGridAEdit::paste_data()
             << "1 2 3 4" << QPoint(2, 1) << QStringList({ "1,2=1", "1,3=" }) << 2;
     QTest::newRow("lines past the last row dropped")
             << "a\r\nb\r\nc" << QPoint(1, 9) << QStringList({ "9,1=a", "10,1=b" }) << 3;
-    QTest::newRow("the tokenizer keeps a leading blank")
-            << "1.5, 2.0" << QPoint(1, 1) << QStringList({ "1,1=1.5", "1,2= 2.0" }) << 3;
     QTest::newRow("an empty line writes nothing")
             << "1\r\n\r\n3" << QPoint(1, 1) << QStringList({ "1,1=1", "2,1=old", "3,1=3" }) << 3;
 }

@@ -97,11 +97,3 @@ std::vector<PdfWord> PdfProbe::wordsOf(int page) const
     return result;
 }
 
-int PdfProbe::pagesContaining(const QString &phrase) const
-{
-    const QString wanted = simplifiedText(phrase);
-    int count = 0;
-    for (const QString &page : m_pageTexts)
-        count += page.contains(wanted) ? 1 : 0;
-    return count;
-}

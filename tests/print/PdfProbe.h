@@ -38,8 +38,6 @@ public:
     const std::vector<PdfWord> &words() const { return m_words; }
     // The words of one page.
     std::vector<PdfWord> wordsOf(int page) const;
-    // How many pages hold `phrase` (blanks collapsed as in pageText).
-    int pagesContaining(const QString &phrase) const;
 
 private:
     bool runPdftotext(const QStringList &arguments, QString &output);

@@ -1,30 +1,5 @@
 #include "ReportFixtures.h"
 
-#include "../calc/ProjectFixtures.h"
-
-#include "Calculate.h"
-
-SwaleProject calculatedProject(int solutionMethod, int channelFlowMethod)
-{
-    SwaleProject project = validProject(solutionMethod, channelFlowMethod);
-    const CalculationOutcome outcome = Calculate(project);
-    if (outcome.status == CalculationOutcome::Status::Ok) {
-        project.outputText = outcome.results;
-        project.resultsShown = true;
-    }
-    return project;
-}
-
-void setLongRatingCurve(SwaleProject &project, int rows)
-{
-    project.clearRatingCurve();
-    for (int r = 1; r <= rows; ++r) {
-        project.setRatingCurveCell(r, 1, std::to_string(r - 1));
-        project.setRatingCurveCell(r, 2, std::to_string(r - 1) + ".0625");
-    }
-    project.setRatingCurveCell(1, 2, "0");
-}
-
 double FixedMeasure::characterWidth(ReportFont font)
 {
     switch (font) {

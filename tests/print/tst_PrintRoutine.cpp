@@ -1,11 +1,11 @@
 #include "PrintRoutine.h"
 
+#include "Fixtures.h"
 #include "PdfProbe.h"
-#include "ReportFixtures.h"
+#include "RecordingPrompts.h"
 
 #include <QDoubleSpinBox>
 #include <QFile>
-#include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -13,69 +13,6 @@
 #include <algorithm>
 
 namespace {
-
-// Print prompts with scripted answers; it records every message and fails the test on a
-// dialog the test did not script.
-class RecordingPrintPrompts : public PrintPrompts
-{
-public:
-    struct Message
-    {
-        QString text;
-        int style;
-        QString title;
-    };
-
-    int ShowErrorMessage(const QString &message, int style, const QString &title) override
-    {
-        messages.push_back({ message, style, title });
-        return 1;
-    }
-    // A printer that prints to `printToFile`, as the print dialog's "Print to File" does.
-    bool askPrinter(QPrinter &printer) override
-    {
-        ++printerDialogs;
-        if (!printerAnswer)
-            QTest::qFail("unscripted print dialog", __FILE__, __LINE__);
-        printedPaper = printer.pageLayout().pageSize().id();
-        if (!printToFile.isEmpty()) {
-            printer.setOutputFormat(QPrinter::PdfFormat);
-            printer.setOutputFileName(printToFile);
-        }
-        return printerAnswer.value_or(false);
-    }
-    bool askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins) override
-    {
-        offeredFileMargins = fileMargins;
-        if (!pageSetupAnswer) {
-            QTest::qFail("unscripted page setup", __FILE__, __LINE__);
-            return false;
-        }
-        setup = *pageSetupAnswer;
-        return true;
-    }
-    QString askPdfFileName(const QString &suggestedPath) override
-    {
-        suggested = suggestedPath;
-        if (!pdfAnswer) {
-            QTest::qFail("unscripted PDF file dialog", __FILE__, __LINE__);
-            return QString();
-        }
-        return *pdfAnswer;
-    }
-    bool hasPrinter() const override { return printerInstalled; }
-
-    bool printerInstalled = false;
-    std::optional<bool> printerAnswer;
-    QString printToFile;
-    QPageSize::PageSizeId printedPaper = QPageSize::Custom;
-    std::optional<ReportPageSetup> pageSetupAnswer;
-    std::optional<QString> pdfAnswer;
-    std::vector<Message> messages;
-    int printerDialogs = 0;
-    PageMargins offeredFileMargins;
-    QString suggested;
-};
 
 void writeMarginsFile(const QString &folder, const QByteArray &lines)
 {
@@ -102,10 +39,11 @@ class tst_PrintRoutine : public QObject
 
 private slots:
     void init();
-    void noPrinterIsReported();
+    void cleanup();
+    void printerFaultsAreReported_data();
+    void printerFaultsAreReported();
     void cancelledPrintDialogPrintsNothing();
     void printGoesToTheChosenPrinter();
-    void printerThatCannotBeOpenedIsReported();
     void exportWritesTheReport();
     void exportCancelledWritesNothing();
     void exportToAnUnwritablePlaceIsReported();
@@ -117,7 +55,7 @@ private slots:
 
 private:
     std::unique_ptr<QTemporaryDir> m_programFolder;
-    std::unique_ptr<RecordingPrintPrompts> m_prompts;
+    std::unique_ptr<RecordingPrompts> m_prompts;
     std::unique_ptr<PrintRoutine> m_routine;
     SwaleProject m_project;
 };
@@ -126,69 +64,78 @@ void tst_PrintRoutine::init()
 {
     m_programFolder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_programFolder->isValid());
-    m_prompts = std::make_unique<RecordingPrintPrompts>();
+    m_prompts = std::make_unique<RecordingPrompts>();
     m_routine = std::make_unique<PrintRoutine>(*m_prompts, m_programFolder->path());
     m_project = calculatedProject(1);
 }
 
-void tst_PrintRoutine::noPrinterIsReported()
+void tst_PrintRoutine::cleanup()
 {
-    m_prompts->printerInstalled = false;
+    QCOMPARE(m_prompts->pendingAnswers(), 0);
+}
+
+void tst_PrintRoutine::printerFaultsAreReported_data()
+{
+    QTest::addColumn<bool>("installed");
+    QTest::addColumn<int>("dialogs");
+    QTest::newRow("no printer installed") << false << 0;
+    QTest::newRow("printer cannot be opened") << true << 1;
+}
+
+void tst_PrintRoutine::printerFaultsAreReported()
+{
+    QFETCH(bool, installed);
+    QFETCH(int, dialogs);
+    m_prompts->setPrinterInstalled(installed);
+    if (installed) {
+        m_prompts->answerPrinter(true, m_programFolder->filePath(QStringLiteral("no/p.pdf")));
+        QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
+    }
+    m_prompts->answerMessage();
     QVERIFY(!m_routine->printReport(m_project, QString()));
-    QCOMPARE(m_prompts->messages.size(), size_t(1));
-    QCOMPARE(m_prompts->messages[0].text,
-             QStringLiteral("Unable to establish connection with printer."));
-    QCOMPARE(m_prompts->messages[0].title, QStringLiteral("Error"));
-    QCOMPARE(m_prompts->messages[0].style, 48);
-    QCOMPARE(m_prompts->printerDialogs, 0);
+    QCOMPARE(m_prompts->recordsOf(RecordingPrompts::Kind::PrintDialog).size(), dialogs);
+    const auto messages = m_prompts->recordsOf(RecordingPrompts::Kind::Message);
+    QCOMPARE(messages.size(), 1);
+    QCOMPARE(messages[0].message, QStringLiteral("Unable to establish connection with printer."));
+    QCOMPARE(messages[0].title, QStringLiteral("Error"));
+    QCOMPARE(messages[0].style, 48);
 }
 
 void tst_PrintRoutine::cancelledPrintDialogPrintsNothing()
 {
-    m_prompts->printerInstalled = true;
-    m_prompts->printerAnswer = false;
+    m_prompts->setPrinterInstalled(true);
+    m_prompts->answerPrinter(false);
     QVERIFY(!m_routine->printReport(m_project, QString()));
-    QCOMPARE(m_prompts->printerDialogs, 1);
-    QVERIFY(m_prompts->messages.empty());
+    QVERIFY(m_prompts->messages().isEmpty());
 }
 
 void tst_PrintRoutine::printGoesToTheChosenPrinter()
 {
     writeMarginsFile(m_programFolder->path(), "1\r\n1000\r\n500\r\n500\r\n500\r\n");
-    m_prompts->printerInstalled = true;
-    m_prompts->printerAnswer = true;
-    m_prompts->printToFile = m_programFolder->filePath(QStringLiteral("printed.pdf"));
+    m_prompts->setPrinterInstalled(true);
+    const QString printed = m_programFolder->filePath(QStringLiteral("printed.pdf"));
+    m_prompts->answerPrinter(true, printed);
     QVERIFY(m_routine->printReport(m_project, QStringLiteral("/jobs/route9.swl")));
-    QVERIFY(m_prompts->messages.empty());
-    QCOMPARE(m_prompts->printedPaper, QPageSize::Letter); // the dialog opens on the chosen paper
+    QVERIFY(m_prompts->messages().isEmpty());
+    // The dialog opens on the chosen paper.
+    QCOMPARE(m_prompts->recordsOf(RecordingPrompts::Kind::PrintDialog)[0].paper, QPageSize::Letter);
 
-    const PdfProbe pdf(m_prompts->printToFile);
+    const PdfProbe pdf(printed);
     QVERIFY2(pdf.isValid(), qPrintable(pdf.errorString()));
     QVERIFY(pdf.text().contains(QStringLiteral("II. RESULTS")));
     QVERIFY(pdf.text().contains(QStringLiteral("Page 1 of %1").arg(pdf.pageCount())));
-    QVERIFY(qAbs(leftmostWord(m_prompts->printToFile) - 72) < 1.5); // Margins.ini: 1 inch left
-}
-
-void tst_PrintRoutine::printerThatCannotBeOpenedIsReported()
-{
-    m_prompts->printerInstalled = true;
-    m_prompts->printerAnswer = true;
-    m_prompts->printToFile = m_programFolder->filePath(QStringLiteral("no folder/printed.pdf"));
-    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
-    QVERIFY(!m_routine->printReport(m_project, QString()));
-    QCOMPARE(m_prompts->messages.size(), size_t(1));
-    QCOMPARE(m_prompts->messages[0].text,
-             QStringLiteral("Unable to establish connection with printer."));
-    QCOMPARE(m_prompts->messages[0].title, QStringLiteral("Error"));
+    QVERIFY(qAbs(leftmostWord(printed) - 72) < 1.5); // Margins.ini: 1 inch left
 }
 
 void tst_PrintRoutine::exportWritesTheReport()
 {
     const QString path = m_programFolder->filePath(QStringLiteral("out.pdf"));
-    m_prompts->pdfAnswer = path;
+    m_prompts->answerSave(path);
     QVERIFY(m_routine->exportPdf(m_project, QStringLiteral("/jobs/route9.swl"), QString()));
-    QCOMPARE(m_prompts->suggested, QStringLiteral("/jobs/route9.pdf"));
-    QVERIFY(m_prompts->messages.empty());
+    const FileDialogRequest request = m_prompts->records()[0].request;
+    QCOMPARE(request.initialFolder + request.fileName, QStringLiteral("/jobs/route9.pdf"));
+    QCOMPARE(request.filters, QStringList { QStringLiteral("PDF Files (*.pdf)") });
+    QVERIFY(m_prompts->messages().isEmpty());
     const PdfProbe pdf(path);
     QVERIFY2(pdf.isValid(), qPrintable(pdf.errorString()));
     QVERIFY(pdf.text().contains(QStringLiteral("Project File /jobs/route9.swl")));
@@ -197,27 +144,28 @@ void tst_PrintRoutine::exportWritesTheReport()
 
 void tst_PrintRoutine::exportCancelledWritesNothing()
 {
-    m_prompts->pdfAnswer = QString();
+    m_prompts->answerSave(QString());
     QVERIFY(!m_routine->exportPdf(m_project, QString(), m_programFolder->path()));
-    QVERIFY(m_prompts->messages.empty());
-    QCOMPARE(m_prompts->suggested, m_programFolder->filePath(QStringLiteral("Swale report.pdf")));
+    QVERIFY(m_prompts->messages().isEmpty());
+    QCOMPARE(m_prompts->records()[0].request.fileName, QStringLiteral("Swale report.pdf"));
 }
 
 void tst_PrintRoutine::exportToAnUnwritablePlaceIsReported()
 {
     const QString path = m_programFolder->filePath(QStringLiteral("missing/out.pdf"));
-    m_prompts->pdfAnswer = path;
+    m_prompts->answerSave(path);
+    m_prompts->answerMessage();
     QVERIFY(!m_routine->exportPdf(m_project, QString(), QString()));
-    QCOMPARE(m_prompts->messages.size(), size_t(1));
-    QCOMPARE(m_prompts->messages[0].text, QStringLiteral("Error writing to file:\r") + path);
-    QCOMPARE(m_prompts->messages[0].title, QStringLiteral("Error"));
+    QCOMPARE(m_prompts->messages(),
+             QStringList { QStringLiteral("Error writing to file:\r") + path });
     QVERIFY(!QFile::exists(path));
 }
 
 void tst_PrintRoutine::marginsFileIsReadAtEachExport()
 {
     const QString path = m_programFolder->filePath(QStringLiteral("out.pdf"));
-    m_prompts->pdfAnswer = path;
+    for (int i = 0; i < 3; ++i)
+        m_prompts->answerSave(path);
 
     QVERIFY(m_routine->exportPdf(m_project, QString(), QString())); // no file: half an inch
     QVERIFY(qAbs(leftmostWord(path) - 36) < 1.5);
@@ -238,12 +186,13 @@ void tst_PrintRoutine::pageSetupChoicesApplyToTheNextExport()
     chosen.marginsChosen = true;
     chosen.margins.Margin1 = 0.25f;
     chosen.orientation = QPageLayout::Landscape;
-    m_prompts->pageSetupAnswer = chosen;
+    m_prompts->answerPageSetup(chosen);
     QVERIFY(m_routine->pageSetup());
-    QCOMPARE(m_prompts->offeredFileMargins.Margin1, 1.5f); // the dialog was offered the file's
+    // The dialog was offered the file's margins.
+    QCOMPARE(m_prompts->records()[0].fileMargins.Margin1, 1.5f);
 
     const QString path = m_programFolder->filePath(QStringLiteral("out.pdf"));
-    m_prompts->pdfAnswer = path;
+    m_prompts->answerSave(path);
     QVERIFY(m_routine->exportPdf(m_project, QString(), QString()));
     QVERIFY(qAbs(leftmostWord(path) - 18) < 1.5);
     const PdfProbe pdf(path);

@@ -1,6 +1,7 @@
 #include "PdfProbe.h"
 #include "PrintRoutine.h"
-#include "ReportFixtures.h"
+#include "Fixtures.h"
+#include "RecordingPrompts.h"
 #include "ReportPreviewDialog.h"
 
 #include <QPrintPreviewWidget>
@@ -8,59 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <functional>
-#include <optional>
 
-namespace {
-
-// Scripted dialogs: a test that meets a dialog it did not script fails at once.
-class ScriptedPrompts : public PrintPrompts
-{
-public:
-    int ShowErrorMessage(const QString &message, int, const QString &) override
-    {
-        QTest::qFail(qPrintable(QStringLiteral("unexpected message: ") + message), __FILE__,
-                     __LINE__);
-        return 1;
-    }
-    bool askPrinter(QPrinter &) override
-    {
-        QTest::qFail("unscripted print dialog", __FILE__, __LINE__);
-        return false;
-    }
-    bool askPageSetup(ReportPageSetup &setup, const PageMargins &) override
-    {
-        if (!pageSetupAnswer)
-            QTest::qFail("unscripted page setup", __FILE__, __LINE__);
-        setup = pageSetupAnswer.value_or(setup);
-        return pageSetupAnswer.has_value();
-    }
-    QString askPdfFileName(const QString &suggestedPath) override
-    {
-        suggested = suggestedPath;
-        if (!pdfAnswer)
-            QTest::qFail("unscripted PDF file dialog", __FILE__, __LINE__);
-        return pdfAnswer.value_or(QString());
-    }
-    // No printer at all: the preview must not need one.
-    bool hasPrinter() const override { return false; }
-    void showPreview(ReportPreviewDialog &dialog) override
-    {
-        ++previews;
-        previewPages = dialog.pageCount();
-        if (inPreview)
-            inPreview(dialog);
-    }
-
-    std::optional<ReportPageSetup> pageSetupAnswer;
-    std::optional<QString> pdfAnswer;
-    QString suggested;
-    int previews = 0;
-    int previewPages = 0;
-    std::function<void(ReportPreviewDialog &)> inPreview;
-};
-
-} // namespace
 
 class tst_ReportCommands : public QObject
 {
@@ -97,35 +46,41 @@ void tst_ReportCommands::previewShowsThePagesThatPrint()
     setup.orientation = landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
 
     // Page Setup's choice reaches the preview through the routine, as in the window.
-    ScriptedPrompts prompts;
-    prompts.pageSetupAnswer = setup;
+    RecordingPrompts prompts;
+    prompts.answerPageSetup(setup);
+    prompts.answerPreview();
     PrintRoutine routine(prompts, folder.path() + QLatin1Char('/'));
     QVERIFY(routine.pageSetup());
     const QString file = QStringLiteral("/jobs/a.swl");
     QCOMPARE(routine.printPreview(project, file, folder.path()), QString());
-    QCOMPARE(prompts.previews, 1);
+    const auto previews = prompts.recordsOf(RecordingPrompts::Kind::Preview);
+    QCOMPARE(previews.size(), 1);
+    const int previewPages = previews.front().pages;
 
     const QString pdf = folder.filePath(QStringLiteral("report.pdf"));
     QVERIFY(writeReportPdf(pdf, project, file, routine.setup(), routine.currentMargins()));
     const PdfProbe probe(pdf);
     QVERIFY2(probe.isValid(), qPrintable(probe.errorString()));
-    QCOMPARE(prompts.previewPages, probe.pageCount());
-    QVERIFY2(prompts.previewPages >= leastPages, qPrintable(QString::number(prompts.previewPages)));
+    QCOMPARE(previewPages, probe.pageCount());
+    QVERIFY2(previewPages >= leastPages, qPrintable(QString::number(previewPages)));
 }
 
 // Export PDF from the preview runs the Export PDF command: its dialog, its file.
 void tst_ReportCommands::previewExportsThroughTheExportCommand()
 {
     QTemporaryDir folder;
-    ScriptedPrompts prompts;
+    RecordingPrompts prompts;
     const QString target = folder.filePath(QStringLiteral("from preview.pdf"));
-    prompts.pdfAnswer = target;
-    prompts.inPreview = [](ReportPreviewDialog &dialog) {
+    prompts.answerPreview([](ReportPreviewDialog &dialog) {
         dialog.findChild<QPushButton *>(QStringLiteral("previewExportPdf"))->click();
-    };
+    });
+    prompts.answerSave(target);
     PrintRoutine routine(prompts, folder.path() + QLatin1Char('/'));
     QCOMPARE(routine.printPreview(calculatedProject(1), QString(), folder.path()), target);
-    QCOMPARE(prompts.suggested, folder.filePath(QStringLiteral("Swale report.pdf")));
+    const auto saves = prompts.recordsOf(RecordingPrompts::Kind::SaveDialog);
+    QCOMPARE(saves.size(), 1);
+    QCOMPARE(saves.front().request.initialFolder + saves.front().request.fileName,
+             folder.filePath(QStringLiteral("Swale report.pdf")));
     QVERIFY(PdfProbe(target).pageCount() >= 1);
 }
 

@@ -1,51 +1,10 @@
 #include "PageFixtures.h"
 
-#include "InputTable.h"
-#include "OutputTable.h"
-#include "tvrEditBox.h"
-
-#include <QButtonGroup>
-#include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace {
-
-QString indexed(const char *name, int index)
-{
-    return QLatin1String(name) + QLatin1Char('_') + QString::number(index);
-}
-
-// A frame of option buttons, the way the window's groups are built.
-template <size_t N>
-QWidget *optionGroup(QWidget *panel, const char *groupName, const char *optionName,
-                     const std::array<const char *, N> &captions,
-                     std::array<QAbstractButton *, N> &buttons)
-{
-    auto *group = new QWidget(panel);
-    group->setObjectName(QLatin1String(groupName));
-    auto *layout = new QVBoxLayout(group);
-    auto *exclusive = new QButtonGroup(group);
-    for (size_t i = 1; i < N; ++i) {
-        auto *button = new QRadioButton(QString::fromUtf8(captions[i]), group);
-        button->setObjectName(indexed(optionName, static_cast<int>(i)));
-        exclusive->addButton(button);
-        layout->addWidget(button);
-        buttons[i] = button;
-    }
-    return group;
-}
-
-// The rating-curve grid stands in as a fixed-size box: the layout only places it.
-class GridStandIn : public QWidget
-{
-public:
-    using QWidget::QWidget;
-    QSize sizeHint() const override { return { 260, 220 }; }
-};
 
 // Object names `name`_first to `name`_last.
 QStringList boxes(const char *name, int first, int last)
@@ -58,57 +17,7 @@ QStringList boxes(const char *name, int first, int last)
 
 } // namespace
 
-InputPageFixture::InputPageFixture() : panel(std::make_unique<QWidget>())
-{
-    QWidget *p = panel.get();
-    controls.panel = p;
-    for (int i = 1; i <= kInputCount; ++i) {
-        auto *box = new tvrEditBox(p);
-        box->setObjectName(indexed("txtInput", i));
-        box->setLeftCaption(QString::fromUtf8(inputBox(i).caption));
-        box->setRightCaption(QString::fromUtf8(inputBox(i).unit));
-        controls.txtInput[static_cast<size_t>(i)] = box;
-    }
-    for (int i = 1; i <= 9; ++i) {
-        auto *heading = new QLabel(QString::fromUtf8(kInputSectionHeadings[static_cast<size_t>(i)]), p);
-        heading->setObjectName(indexed("lblInput", i));
-        controls.lblInput[static_cast<size_t>(i)] = heading;
-    }
-    controls.grpSolutionMethod = optionGroup(p, "grpSolutionMethod", "optCalculate",
-                                             kSolutionMethodCaptions, controls.optCalculate);
-    controls.grpChannelFlow = optionGroup(p, "grpChannelFlow", "optChannelFlow",
-                                          kChannelFlowMethodCaptions, controls.optChannelFlow);
-    controls.grdRatingCurve = new GridStandIn(p);
-    controls.grdRatingCurve->setObjectName(QStringLiteral("grdRatingCurve"));
-    controls.grdRatingCurve->setFocusPolicy(Qt::StrongFocus);
-    controls.cmdToday = new QPushButton(QStringLiteral("<- Today"), p);
-    controls.cmdToday->setObjectName(QStringLiteral("cmdToday"));
-    for (int i = 1; i <= 2; ++i) {
-        controls.cmdHelp[static_cast<size_t>(i)] = new QPushButton(QStringLiteral("<-  Help"), p);
-        controls.cmdHelp[static_cast<size_t>(i)]->setObjectName(indexed("cmdHelp", i));
-    }
-}
-
-ResultsPageFixture::ResultsPageFixture() : panel(std::make_unique<QWidget>())
-{
-    QWidget *p = panel.get();
-    controls.panel = p;
-    for (int group = 1; group <= 5; ++group) {
-        auto *heading = new QLabel(QString::fromUtf8(kResultGroupTitles[static_cast<size_t>(group)]), p);
-        heading->setObjectName(indexed("lblOutput", group));
-        controls.lblOutput[static_cast<size_t>(group)] = heading;
-    }
-    for (int i = 1; i <= kOutputCount; ++i) {
-        auto *box = new tvrEditBox(p);
-        box->setObjectName(indexed("txtOutput", i));
-        box->setLeftCaption(QString::fromUtf8(outputBox(i).caption));
-        box->setRightCaption(QString::fromUtf8(outputBox(i).unit));
-        box->setWriteProtected(true);
-        controls.txtOutput[static_cast<size_t>(i)] = box;
-    }
-}
-
-QStringList shownFromTheTop(const QWidget *panel)
+QList<QWidget *> shownChildren(const QWidget *panel)
 {
     QList<QWidget *> shown;
     for (QWidget *child : panel->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -117,12 +26,16 @@ QStringList shownFromTheTop(const QWidget *panel)
     }
     std::stable_sort(shown.begin(), shown.end(),
                      [](QWidget *a, QWidget *b) { return a->y() < b->y(); });
+    return shown;
+}
+
+QStringList shownFromTheTop(const QWidget *panel)
+{
     QStringList names;
-    for (QWidget *child : shown)
+    for (QWidget *child : shownChildren(panel))
         names << child->objectName();
     return names;
 }
-
 
 QStringList expectedInputOrder(int method, int flow)
 {
@@ -150,7 +63,7 @@ QStringList expectedInputOrder(int method, int flow)
 QStringList expectedResultsOrder(int method, int flow)
 {
     const bool infiltration = method == 1 || method == 2;
-    QStringList names{ QStringLiteral("lblOutput_1") };
+    QStringList names { QStringLiteral("lblOutput_1") };
     if (infiltration)
         names << QStringLiteral("txtOutput_1");
     if (infiltration || method == 3)

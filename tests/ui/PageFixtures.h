@@ -1,29 +1,32 @@
 #pragma once
 
+#include "InputPage.h"
 #include "PageLayout.h"
+#include "ResultsPage.h"
 
+#include <QList>
 #include <QStringList>
 #include <QWidget>
 
-#include <memory>
-
-// Stand-alone copies of the two pages' controls, built from the same tables as the window's
-// pages, for testing the layout, the scrolling and the keyboard without the main window.
+// The window's two pages on their own, with the controls their layout places, for testing the
+// layout and the keyboard without the main window.
 struct InputPageFixture
 {
-    InputPageFixture();
-    std::unique_ptr<QWidget> panel;
-    InputPageControls controls;
+    InputPage page;
+    InputPageControls controls = page.controls();
+    QWidget *panel = &page;
 };
 
 struct ResultsPageFixture
 {
-    ResultsPageFixture();
-    std::unique_ptr<QWidget> panel;
-    ResultsPageControls controls;
+    ResultsPage page;
+    ResultsPageControls controls = page.controls();
+    QWidget *panel = &page;
 };
 
-// Object names of the shown children of `panel` (push buttons aside), from the top down.
+// The shown children of `panel` (push buttons aside), from the top down.
+QList<QWidget *> shownChildren(const QWidget *panel);
+// Their object names.
 QStringList shownFromTheTop(const QWidget *panel);
 // The items of each page from the top, as the pages' section tables list them for a solution
 // method and a channel-flow method (0: none chosen).

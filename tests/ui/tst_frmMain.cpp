@@ -1,12 +1,12 @@
-#include "GlobalData.h"
+#include "CalcRunner.h"
 #include "HelpImagePanel.h"
 #include "HelpViewer.h"
 #include "InputPage.h"
 #include "OptionGroup.h"
 #include "RdcGridA.h"
-#include "RecordingPrompts.h"
+#include "ScrollingPage.h"
 #include "ResultsPage.h"
-#include "frmMain.h"
+#include "WindowFixture.h"
 #include "tvrEditBox.h"
 
 #include <QAction>
@@ -17,20 +17,19 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QRegularExpression>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
-#include <QToolBar>
 
 #include <memory>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -50,16 +49,6 @@ const QStringList kExamples = {
 QString exampleSource(const QString &name)
 {
     return QStringLiteral(SWALE_EXAMPLES_DIR "/") + name;
-}
-
-// The output of `swale-calc --json` for a project file.
-QJsonObject calculatorJson(const QString &path)
-{
-    QProcess calculator;
-    calculator.start(QStringLiteral(SWALE_CALC), { QStringLiteral("--json"), path });
-    if (!calculator.waitForFinished())
-        return {};
-    return QJsonDocument::fromJson(calculator.readAllStandardOutput()).object();
 }
 
 // The clipboard text of 18 result texts: every text on its own line, an empty line after the
@@ -86,9 +75,6 @@ private slots:
     void cleanup();
 
     void startsUntitledOnTheInputPage();
-    void menuCaptions_data();
-    void menuCaptions();
-    void toolbarButtonsInOrder();
     void edits_data();
     void edits();
     void todayButtonWritesTheDateAndMarksTheDocument();
@@ -98,8 +84,6 @@ private slots:
     void newAnswers();
     void openAnswers_data();
     void openAnswers();
-    void recentAnswers_data();
-    void recentAnswers();
     void closeAnswers_data();
     void closeAnswers();
 
@@ -108,160 +92,87 @@ private slots:
     void saveFailures_data();
     void saveFailures();
     void deletedRecentFileIsReported();
+    void unreadableProjectLeavesTheDocument_data();
     void unreadableProjectLeavesTheDocument();
 
     void calculateMatchesTheCalculator_data();
     void calculateMatchesTheCalculator();
-    void faultOnResultsPageReturnsToTheBox();
-    void ratingCurveFaultSelectsTheCell();
-    void calculationFailureShowsCriticalMessage();
+    void faultsAreShownWhereTheyAre_data();
+    void faultsAreShownWhereTheyAre();
     void printNeedsResultsAndAPrinter();
     void exportPdfWritesTheReportWhereTheUserSays();
     void helpButtonsOpenTheirTopics();
 
     void settingsRoundTrip();
+    void panelsWaitForRoomInTheTab();
+    void smallWindowScrollsToTheFocusedBox();
 
 private:
-    void makeWindow();
+    void showActive();
     void openExample(int index);
     void makeChanged();
     // Writes a small valid project to `name` in the documents folder and returns its path.
     QString writeProject(const QString &name);
-    QString settingsFile(const char *name) const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    GlobalData m_folders;
-    RecordingPrompts m_prompts;
-    std::unique_ptr<frmMain> m_window;
+    WindowFixture m_fx;
 };
 
 void tst_frmMain::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    const std::string root = m_folder->path().toStdString();
-    QDir(m_folder->path()).mkpath(QStringLiteral("program/Examples"));
-    QDir(m_folder->path()).mkpath(QStringLiteral("program/help"));
-    QDir(m_folder->path()).mkpath(QStringLiteral("settings"));
-    QDir(m_folder->path()).mkpath(QStringLiteral("documents"));
-    m_folders = { root + "/program/", root + "/settings/", root + "/documents/" };
+    m_fx.setUp();
     for (const QString &example : kExamples)
         QFile::copy(exampleSource(example),
-                    QString::fromStdString(m_folders.programFolder + "Examples/") + example);
-    m_prompts.clear();
-    makeWindow();
+                    m_fx.programFile(QStringLiteral("Examples/") + example));
 }
 
 void tst_frmMain::cleanup()
 {
-    QCOMPARE(m_prompts.pendingAnswers(), 0);
-    m_window.reset();
-    m_folder.reset();
+    m_fx.tearDown();
 }
 
-void tst_frmMain::makeWindow()
+void tst_frmMain::showActive()
 {
-    m_window.reset();
-    m_window = std::make_unique<frmMain>(m_prompts, m_folders);
+    m_fx.window->show();
+    QApplication::setActiveWindow(m_fx.window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_fx.window.get()));
 }
 
 void tst_frmMain::openExample(int index)
 {
-    QVERIFY(m_window->OpenDataFile(QString::fromStdString(m_folders.programFolder + "Examples/")
-                                           + kExamples.at(index - 1),
-                                   OpenExample));
+    QVERIFY(m_fx.window->OpenDataFile(
+            QString::fromStdString(m_fx.folders.programFolder + "Examples/")
+                    + kExamples.at(index - 1),
+            OpenExample));
 }
 
 void tst_frmMain::makeChanged()
 {
-    m_window->txtInput(1)->setText(QStringLiteral("Edited job"));
-    QVERIFY(m_window->isDataChanged());
+    m_fx.window->txtInput(1)->setText(QStringLiteral("Edited job"));
+    QVERIFY(m_fx.window->isDataChanged());
 }
 
 QString tst_frmMain::writeProject(const QString &name)
 {
-    const QString path = QString::fromStdString(m_folders.documentsFolder) + name;
+    const QString path = QString::fromStdString(m_fx.folders.documentsFolder) + name;
     QFile::copy(exampleSource(kExamples.at(0)), path);
     return path;
 }
 
-QString tst_frmMain::settingsFile(const char *name) const
-{
-    return QString::fromStdString(m_folders.settingsFolder) + QLatin1String(name);
-}
-
 void tst_frmMain::startsUntitledOnTheInputPage()
 {
-    QCOMPARE(m_window->windowTitle(), kUntitledCaption);
-    QCOMPARE(m_window->tabs()->currentIndex(), 0);
-    QCOMPARE(m_window->tabs()->tabText(0), QStringLiteral("Input Data"));
-    QCOMPARE(m_window->tabs()->tabText(1), QStringLiteral("Results"));
-    QCOMPARE(m_window->tabs()->tabText(2), QStringLiteral("Help"));
-    QCOMPARE(m_window->inputPage()->GetSolutionMethod(), 1);
-    QVERIFY(!m_window->isDataChanged());
-    QVERIFY(!m_window->resultsShown());
-    QVERIFY(!m_window->menus().toolbarPrint()->isEnabled());
-    QVERIFY(m_window->currentFilePath().isEmpty());
+    QCOMPARE(m_fx.window->windowTitle(), kUntitledCaption);
+    QCOMPARE(m_fx.window->tabs()->currentIndex(), 0);
+    QCOMPARE(m_fx.window->inputPage()->GetSolutionMethod(), 1);
+    QVERIFY(!m_fx.window->isDataChanged());
+    QVERIFY(!m_fx.window->resultsShown());
+    QVERIFY(!m_fx.window->menus().toolbarPrint()->isEnabled());
+    QVERIFY(m_fx.window->currentFilePath().isEmpty());
     QVERIFY(QRegularExpression(QStringLiteral("^Version 3\\.3\\.\\d{4}$"))
-                    .match(m_window->versionText())
+                    .match(m_fx.window->versionText())
                     .hasMatch());
     for (int i = 1; i <= 5; ++i)
-        QVERIFY(!m_window->menus().mnuFile_Recent[static_cast<size_t>(i)]->isVisible());
-    QVERIFY(!m_window->menus().mnuFile_Separator3->isVisible());
-    QCOMPARE(m_window->txtInput(6)->rightcaption(), QStringLiteral("?H : 1V"));
-    QCOMPARE(m_window->txtOutput(12)->leftcaption(), QStringLiteral("Mean veolcity, [V]"));
-    QCOMPARE(m_window->findChild<QPushButton *>(QStringLiteral("cmdHelp_1"))->text(),
-             QStringLiteral("<-  Help"));
-}
-
-void tst_frmMain::menuCaptions_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("caption");
-    const char *const rows[][2] = {
-        { "mnuFile_New", "&New" },
-        { "mnuFile_Open", "&Open" },
-        { "mnuFile_Save", "&Save" },
-        { "mnuFile_SaveAs", "Save &As" },
-        { "mnuFile_Print", "&Print" },
-        { "mnuFile_PrintSetup", "Page Set&up" },
-        { "cmdFile_Example", "Example..." },
-        { "mnuFile_Exit", "&Exit" },
-        { "mnuHelp_About", "&About" },
-        { "mnuHelp_Image_Size_1", "&Small" },
-        { "mnuHelp_Image_Size_2", "&Medium" },
-        { "mnuHelp_Image_Size_3", "&Large" },
-        { "mnuHelp_Image_Size_4", "L&argest" },
-        { "mnuHelpImage_Image_Size_4", "Largest" },
-        { "mnuHelpImage_Copy", "Copy" },
-    };
-    for (const auto &row : rows)
-        QTest::newRow(row[0]) << QString::fromLatin1(row[0]) << QString::fromLatin1(row[1]);
-}
-
-void tst_frmMain::menuCaptions()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, caption);
-    auto *action = m_window->findChild<QAction *>(name);
-    QVERIFY2(action, qPrintable(name));
-    QCOMPARE(action->text(), caption);
-    QCOMPARE(m_window->menus().mnuFile->title(), QStringLiteral("&File"));
-    QCOMPARE(m_window->menus().mnuHelp->title(), QStringLiteral("&Help"));
-    QCOMPARE(m_window->menus().mnuHelp_Image->title(), QStringLiteral("Help Image Si&ze"));
-    QCOMPARE(m_window->menus().mnuHelpImage->title(), QStringLiteral("Help Image"));
-}
-
-void tst_frmMain::toolbarButtonsInOrder()
-{
-    const QStringList tags = { QStringLiteral("New"), QStringLiteral("Open"),
-                               QStringLiteral("Save"), QStringLiteral("Print") };
-    for (int i = 1; i <= 4; ++i) {
-        QAction *button = m_window->menus().toolbarButtons[static_cast<size_t>(i)];
-        QCOMPARE(button->data().toString(), tags.at(i - 1));
-        QVERIFY(!button->icon().isNull());
-    }
-    QCOMPARE(m_window->menus().Toolbar1->actions().at(3), m_window->menus().toolbarButtons[4]);
+        QVERIFY(!m_fx.window->menus().mnuFile_Recent[static_cast<size_t>(i)]->isVisible());
+    QVERIFY(!m_fx.window->menus().mnuFile_Separator3->isVisible());
 }
 
 void tst_frmMain::edits_data()
@@ -280,55 +191,50 @@ void tst_frmMain::edits()
     QFETCH(int, box);
     QFETCH(bool, clearsResults);
     openExample(1);
-    m_window->calculateButton()->click();
-    QVERIFY(m_window->resultsShown());
-    QTest::keyClick(m_window->txtInput(box)->editor(), Qt::Key_9);
-    QVERIFY(m_window->isDataChanged());
-    QCOMPARE(m_window->resultsShown(), !clearsResults);
-    QCOMPARE(m_window->txtOutput(7)->text().isEmpty(), clearsResults);
-    QCOMPARE(m_window->menus().toolbarPrint()->isEnabled(), !clearsResults);
+    m_fx.window->calculateButton()->click();
+    QVERIFY(m_fx.window->resultsShown());
+    QTest::keyClick(m_fx.window->txtInput(box)->editor(), Qt::Key_9);
+    QVERIFY(m_fx.window->isDataChanged());
+    QCOMPARE(m_fx.window->resultsShown(), !clearsResults);
+    QCOMPARE(m_fx.window->txtOutput(7)->text().isEmpty(), clearsResults);
+    QCOMPARE(m_fx.window->menus().toolbarPrint()->isEnabled(), !clearsResults);
 }
 
 void tst_frmMain::todayButtonWritesTheDateAndMarksTheDocument()
 {
-    auto *today = m_window->findChild<QPushButton *>(QStringLiteral("cmdToday"));
+    auto *today = m_fx.window->findChild<QPushButton *>(QStringLiteral("cmdToday"));
     QCOMPARE(today->text(), QStringLiteral("<- Today"));
     const QString date = QDate::currentDate().toString(QStringLiteral("MM-dd-yyyy"));
     today->click();
-    QCOMPARE(m_window->txtInput(3)->text(), date);
-    QVERIFY(m_window->isDataChanged());
+    QCOMPARE(m_fx.window->txtInput(3)->text(), date);
+    QVERIFY(m_fx.window->isDataChanged());
 
     // Pressed again on a saved project that already holds today's date, it still marks it.
-    m_prompts.answerSave(QString::fromStdString(m_folders.documentsFolder) + "today.swl");
-    QVERIFY(m_window->SaveProjectAs());
-    QVERIFY(!m_window->isDataChanged());
+    m_fx.prompts.answerSave(QString::fromStdString(m_fx.folders.documentsFolder) + "today.swl");
+    QVERIFY(m_fx.window->SaveProjectAs());
+    QVERIFY(!m_fx.window->isDataChanged());
     today->click();
-    QCOMPARE(m_window->txtInput(3)->text(), date);
-    QVERIFY(m_window->isDataChanged());
-    m_window->ClearProject();
+    QCOMPARE(m_fx.window->txtInput(3)->text(), date);
+    QVERIFY(m_fx.window->isDataChanged());
+    m_fx.window->ClearProject();
 }
 
 void tst_frmMain::optionClickClearsResultsAndRelays()
 {
     openExample(1);
-    m_window->calculateButton()->click();
-    QVERIFY(m_window->resultsShown());
-    m_window->inputPage()->solutionMethodGroup()->option(3)->click();
-    QVERIFY(!m_window->resultsShown());
-    QVERIFY(!m_window->menus().toolbarPrint()->isEnabled());
-    QVERIFY(m_window->isDataChanged());
-    QCOMPARE(m_window->txtOutput(2)->leftcaption(),
-             QStringLiteral("Treatment/interception efficiency, [e]"));
-    QVERIFY(m_window->inputPage()->ratingCurveGrid()->isVisibleTo(m_window->inputPage()));
-    QVERIFY(!m_window->txtInput(20)->isVisibleTo(m_window->inputPage()));
-    m_window->inputPage()->channelFlowGroup()->option(2)->click();
-    QCOMPARE(m_window->resultsPage()->heading(2)->text(),
-             QStringLiteral("Channel Inflow Calculations"));
-    QCOMPARE(m_window->txtOutput(4)->leftcaption(), QStringLiteral("Channel inflow rate, [Qp]"));
-    QVERIFY(m_window->txtInput(15)->isVisibleTo(m_window->inputPage()));
-    QVERIFY(!m_window->txtInput(10)->isVisibleTo(m_window->inputPage()));
-    m_window->inputPage()->solutionMethodGroup()->option(4)->click();
-    QVERIFY(m_window->inputPage()->ratingCurveGrid()->isVisibleTo(m_window->inputPage()));
+    m_fx.window->calculateButton()->click();
+    QVERIFY(m_fx.window->resultsShown());
+    m_fx.window->inputPage()->solutionMethodGroup()->option(3)->click();
+    QVERIFY(!m_fx.window->resultsShown());
+    QVERIFY(!m_fx.window->menus().toolbarPrint()->isEnabled());
+    QVERIFY(m_fx.window->isDataChanged());
+    QVERIFY(m_fx.window->inputPage()->ratingCurveGrid()->isVisibleTo(m_fx.window->inputPage()));
+    QVERIFY(!m_fx.window->txtInput(20)->isVisibleTo(m_fx.window->inputPage()));
+    m_fx.window->inputPage()->channelFlowGroup()->option(2)->click();
+    QVERIFY(m_fx.window->txtInput(15)->isVisibleTo(m_fx.window->inputPage()));
+    QVERIFY(!m_fx.window->txtInput(10)->isVisibleTo(m_fx.window->inputPage()));
+    m_fx.window->inputPage()->solutionMethodGroup()->option(4)->click();
+    QVERIFY(m_fx.window->inputPage()->ratingCurveGrid()->isVisibleTo(m_fx.window->inputPage()));
 }
 
 void tst_frmMain::newAnswers_data()
@@ -358,101 +264,89 @@ void tst_frmMain::newAnswers()
     QFETCH(bool, saved);
     const QString path = writeProject(QStringLiteral("new.swl"));
     if (titled)
-        QVERIFY(m_window->OpenDataFile(path, OpenNormal));
+        QVERIFY(m_fx.window->OpenDataFile(path, OpenNormal));
     else
         openExample(1);
-    const QString caption = m_window->windowTitle();
+    const QString caption = m_fx.window->windowTitle();
     if (changed) {
         makeChanged();
-        m_prompts.answerMessage(answer);
+        m_fx.prompts.answerMessage(answer);
         if (!titled && answer == MessageAnswer::Yes)
-            m_prompts.answerSave(QString());
+            m_fx.prompts.answerSave(QString());
     }
-    m_window->menus().toolbarButtons[1]->trigger(); // the toolbar's New
+    m_fx.window->menus().toolbarButtons[1]->trigger(); // the toolbar's New
     if (changed) {
-        QCOMPARE(m_prompts.records().constFirst().message, kQuestion);
-        QCOMPARE(m_prompts.records().constFirst().title, kQuestionTitle);
-        QCOMPARE(m_prompts.records().constFirst().style, int(MessageStyle::YesNoCancel));
+        QCOMPARE(m_fx.prompts.records().constFirst().message, kQuestion);
+        QCOMPARE(m_fx.prompts.records().constFirst().title, kQuestionTitle);
+        QCOMPARE(m_fx.prompts.records().constFirst().style, int(MessageStyle::YesNoCancel));
     } else {
-        QVERIFY(m_prompts.records().isEmpty());
+        QVERIFY(m_fx.prompts.records().isEmpty());
     }
-    QCOMPARE(m_window->windowTitle(), cleared ? kUntitledCaption : caption);
-    QCOMPARE(m_window->txtInput(1)->text().isEmpty(), cleared);
-    QCOMPARE(m_window->isDataChanged(), !cleared);
-    QCOMPARE(m_window->currentFilePath().isEmpty(), cleared || !titled);
+    QCOMPARE(m_fx.window->windowTitle(), cleared ? kUntitledCaption : caption);
+    QCOMPARE(m_fx.window->txtInput(1)->text().isEmpty(), cleared);
+    QCOMPARE(m_fx.window->isDataChanged(), !cleared);
+    QCOMPARE(m_fx.window->currentFilePath().isEmpty(), cleared || !titled);
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().contains("Edited job"), saved);
     if (!cleared)
-        m_window->ClearProject();
+        m_fx.window->ClearProject();
 }
 
 void tst_frmMain::openAnswers_data()
 {
+    QTest::addColumn<bool>("recent");
     QTest::addColumn<int>("answer");
     QTest::addColumn<bool>("opened");
     QTest::addColumn<bool>("saved");
-    QTest::newRow("Cancel") << int(MessageAnswer::Cancel) << false << false;
-    QTest::newRow("No") << int(MessageAnswer::No) << true << false;
-    QTest::newRow("Yes saves the old project first") << int(MessageAnswer::Yes) << true << true;
+    QTest::newRow("Open, Cancel") << false << int(MessageAnswer::Cancel) << false << false;
+    QTest::newRow("Open, No") << false << int(MessageAnswer::No) << true << false;
+    QTest::newRow("Open, Yes saves the old project first")
+            << false << int(MessageAnswer::Yes) << true << true;
+    QTest::newRow("Recent, Cancel") << true << int(MessageAnswer::Cancel) << false << false;
+    QTest::newRow("Recent, Yes") << true << int(MessageAnswer::Yes) << true << true;
 }
 
+// Open and a recent file ask the unsaved-data question first, then open the other project.
 void tst_frmMain::openAnswers()
 {
+    QFETCH(bool, recent);
     QFETCH(int, answer);
     QFETCH(bool, opened);
     QFETCH(bool, saved);
     const QString first = writeProject(QStringLiteral("first.swl"));
     const QString second = writeProject(QStringLiteral("second.swl"));
-    QVERIFY(m_window->OpenDataFile(first, OpenNormal));
+    if (recent)
+        QVERIFY(m_fx.window->OpenDataFile(second, OpenNormal));
+    QVERIFY(m_fx.window->OpenDataFile(first, OpenNormal));
     makeChanged();
-    m_prompts.answerMessage(answer);
-    if (opened)
-        m_prompts.answerOpen(second);
-    m_window->menus().mnuFile_Open->trigger();
-    QCOMPARE(m_window->currentFilePath(), opened ? second : first);
-    QCOMPARE(m_window->isDataChanged(), !opened);
+    m_fx.prompts.answerMessage(answer);
+    if (recent) {
+        QCOMPARE(m_fx.window->menus().mnuFile_Recent[2]->text(), QStringLiteral("&2 ") + second);
+        QVERIFY(!m_fx.window->menus().mnuFile_Recent[3]->isVisible());
+        m_fx.window->menus().mnuFile_Recent[2]->trigger();
+    } else {
+        if (opened)
+            m_fx.prompts.answerOpen(second);
+        m_fx.window->menus().mnuFile_Open->trigger();
+    }
+    QCOMPARE(m_fx.window->currentFilePath(), opened ? second : first);
+    QCOMPARE(m_fx.window->isDataChanged(), !opened);
     QFile file(first);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().contains("Edited job"), saved);
     if (opened) {
-        const FileDialogRequest request = m_prompts.records().last().request;
+        QCOMPARE(m_fx.window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + second);
+    }
+    if (opened && !recent) {
+        const FileDialogRequest request = m_fx.prompts.records().last().request;
         QCOMPARE(request.selectedFilter, 1);
         QCOMPARE(request.filters.at(1),
                  QStringLiteral("TAVRO Channel and Overland Flow Analysis (*.swl)"));
         QCOMPARE(request.filters.at(0), QStringLiteral("All Files (*.*)"));
         QCOMPARE(request.defaultSuffix, QStringLiteral("udr"));
-        QCOMPARE(request.initialFolder, QString::fromStdString(m_folders.documentsFolder));
+        QCOMPARE(request.initialFolder, QString::fromStdString(m_fx.folders.documentsFolder));
     }
-}
-
-void tst_frmMain::recentAnswers_data()
-{
-    openAnswers_data();
-}
-
-void tst_frmMain::recentAnswers()
-{
-    QFETCH(int, answer);
-    QFETCH(bool, opened);
-    QFETCH(bool, saved);
-    const QString first = writeProject(QStringLiteral("first.swl"));
-    const QString second = writeProject(QStringLiteral("second.swl"));
-    QVERIFY(m_window->OpenDataFile(second, OpenNormal));
-    QVERIFY(m_window->OpenDataFile(first, OpenNormal));
-    QCOMPARE(m_window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + first);
-    QCOMPARE(m_window->menus().mnuFile_Recent[2]->text(), QStringLiteral("&2 ") + second);
-    QVERIFY(!m_window->menus().mnuFile_Recent[3]->isVisible());
-    QVERIFY(m_window->menus().mnuFile_Separator3->isVisible());
-    makeChanged();
-    m_prompts.answerMessage(answer);
-    m_window->menus().mnuFile_Recent[2]->trigger();
-    QCOMPARE(m_window->currentFilePath(), opened ? second : first);
-    QFile file(first);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll().contains("Edited job"), saved);
-    if (opened)
-        QCOMPARE(m_window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + second);
 }
 
 void tst_frmMain::closeAnswers_data()
@@ -472,48 +366,48 @@ void tst_frmMain::closeAnswers()
     QFETCH(bool, changed);
     QFETCH(int, answer);
     QFETCH(bool, closes);
-    m_window->show();
+    m_fx.window->show();
     if (changed) {
         makeChanged();
-        m_prompts.answerMessage(answer);
+        m_fx.prompts.answerMessage(answer);
         if (answer == MessageAnswer::Yes)
-            m_prompts.answerSave(QString()); // untitled: Save As, cancelled
+            m_fx.prompts.answerSave(QString()); // untitled: Save As, cancelled
     }
-    m_window->menus().mnuFile_Exit->trigger();
-    QCOMPARE(m_window->isVisible(), !closes);
-    QCOMPARE(QFile::exists(settingsFile("WindowState.ini")), closes);
-    QCOMPARE(QFile::exists(settingsFile("RecentFiles.ini")), closes);
-    m_window->ClearProject(); // leave without a question
+    m_fx.window->menus().mnuFile_Exit->trigger();
+    QCOMPARE(m_fx.window->isVisible(), !closes);
+    QCOMPARE(QFile::exists(m_fx.settingsFile("WindowState.ini")), closes);
+    QCOMPARE(QFile::exists(m_fx.settingsFile("RecentFiles.ini")), closes);
+    m_fx.window->ClearProject(); // leave without a question
 }
 
 void tst_frmMain::saveAsThenOpenRoundTrip()
 {
     openExample(3);
-    m_window->txtInput(17)->setText(QString::fromUtf8("Sod, \xC3\xA9t\xC3\xA9 mix"));
-    const QString path = QString::fromStdString(m_folders.documentsFolder) + "copy.swl";
-    m_prompts.answerSave(path);
-    QVERIFY(m_window->SaveProjectAs());
-    QCOMPARE(m_window->windowTitle(),
+    m_fx.window->txtInput(17)->setText(QString::fromUtf8("Sod, \xC3\xA9t\xC3\xA9 mix"));
+    const QString path = QString::fromStdString(m_fx.folders.documentsFolder) + "copy.swl";
+    m_fx.prompts.answerSave(path);
+    QVERIFY(m_fx.window->SaveProjectAs());
+    QCOMPARE(m_fx.window->windowTitle(),
              QStringLiteral("TAVRO Channel and Overland Flow Analysis - copy.swl"));
-    QCOMPARE(m_window->currentFilePath(), path);
-    QVERIFY(!m_window->isDataChanged());
-    QCOMPARE(m_window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + path);
-    const SwaleProject saved = m_window->currentProject();
+    QCOMPARE(m_fx.window->currentFilePath(), path);
+    QVERIFY(!m_fx.window->isDataChanged());
+    QCOMPARE(m_fx.window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + path);
+    const SwaleProject saved = m_fx.window->currentProject();
 
-    m_window->menus().mnuFile_New->trigger();
-    QVERIFY(m_window->txtInput(17)->text().isEmpty());
-    m_prompts.answerOpen(path);
-    m_window->menus().mnuFile_Open->trigger();
-    const SwaleProject loaded = m_window->currentProject();
+    m_fx.window->menus().mnuFile_New->trigger();
+    QVERIFY(m_fx.window->txtInput(17)->text().isEmpty());
+    m_fx.prompts.answerOpen(path);
+    m_fx.window->menus().mnuFile_Open->trigger();
+    const SwaleProject loaded = m_fx.window->currentProject();
     QCOMPARE(loaded.inputText, saved.inputText);
     QCOMPARE(loaded.solutionMethod, 3);
     QCOMPARE(loaded.ratingCurve, saved.ratingCurve);
-    QCOMPARE(m_window->txtInput(17)->text(), QString::fromUtf8("Sod, \xC3\xA9t\xC3\xA9 mix"));
+    QCOMPARE(m_fx.window->txtInput(17)->text(), QString::fromUtf8("Sod, \xC3\xA9t\xC3\xA9 mix"));
 
     // Save in place: no dialog, the file changes.
-    m_window->txtInput(1)->setText(QStringLiteral("Second job"));
-    QVERIFY(m_window->SaveProject());
-    QVERIFY(!m_window->isDataChanged());
+    m_fx.window->txtInput(1)->setText(QStringLiteral("Second job"));
+    QVERIFY(m_fx.window->SaveProject());
+    QVERIFY(!m_fx.window->isDataChanged());
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains("Second job"));
@@ -521,20 +415,20 @@ void tst_frmMain::saveAsThenOpenRoundTrip()
 
 void tst_frmMain::exampleOpensUntitled()
 {
-    m_prompts.answerOpen(QString::fromStdString(m_folders.programFolder + "Examples/")
-                         + kExamples.at(1));
-    m_window->menus().cmdFile_Example->trigger();
-    QCOMPARE(m_prompts.records().last().request.initialFolder,
-             QString::fromStdString(m_folders.programFolder) + QStringLiteral("Examples/"));
-    QCOMPARE(m_window->windowTitle(),
+    m_fx.prompts.answerOpen(QString::fromStdString(m_fx.folders.programFolder + "Examples/")
+                            + kExamples.at(1));
+    m_fx.window->menus().cmdFile_Example->trigger();
+    QCOMPARE(m_fx.prompts.records().last().request.initialFolder,
+             QString::fromStdString(m_fx.folders.programFolder) + QStringLiteral("Examples/"));
+    QCOMPARE(m_fx.window->windowTitle(),
              QStringLiteral("TAVRO Channel and Overland Flow Analysis - ") + kExamples.at(1));
-    QVERIFY(m_window->currentFilePath().isEmpty());
-    QVERIFY(!m_window->isDataChanged());
-    QCOMPARE(m_window->inputPage()->GetSolutionMethod(), 2);
-    QVERIFY(!m_window->menus().mnuFile_Recent[1]->isVisible());
-    m_prompts.answerSave(QString());
-    QVERIFY(!m_window->SaveProject()); // asks for a name: the example stays untouched
-    QCOMPARE(m_prompts.records().last().kind, RecordingPrompts::Kind::SaveDialog);
+    QVERIFY(m_fx.window->currentFilePath().isEmpty());
+    QVERIFY(!m_fx.window->isDataChanged());
+    QCOMPARE(m_fx.window->inputPage()->GetSolutionMethod(), 2);
+    QVERIFY(!m_fx.window->menus().mnuFile_Recent[1]->isVisible());
+    m_fx.prompts.answerSave(QString());
+    QVERIFY(!m_fx.window->SaveProject()); // asks for a name: the example stays untouched
+    QCOMPARE(m_fx.prompts.records().last().kind, RecordingPrompts::Kind::SaveDialog);
 }
 
 void tst_frmMain::saveFailures_data()
@@ -557,68 +451,82 @@ void tst_frmMain::saveFailures()
     QFETCH(bool, saveAs);
     QFETCH(bool, badLine);
     QFETCH(QString, message);
-    const QString documents = QString::fromStdString(m_folders.documentsFolder);
+    const QString documents = QString::fromStdString(m_fx.folders.documentsFolder);
     QString target = documents + QStringLiteral("target.swl");
     if (saveAs) {
         openExample(1);
         if (!badLine)
             target = documents + QStringLiteral("gone/target.swl");
-        m_prompts.answerSave(target);
+        m_fx.prompts.answerSave(target);
     } else {
-        QVERIFY(m_window->OpenDataFile(writeProject(QStringLiteral("target.swl")), OpenNormal));
+        QVERIFY(m_fx.window->OpenDataFile(writeProject(QStringLiteral("target.swl")), OpenNormal));
         if (!badLine) {
             QVERIFY(QFile::remove(target));
             QVERIFY(QDir(documents).mkdir(QStringLiteral("target.swl")));
         }
     }
-    const QString caption = m_window->windowTitle();
-    const QString path = m_window->currentFilePath();
-    m_window->txtInput(2)->setText(badLine ? QStringLiteral("two\nlines") : QStringLiteral("x"));
-    QCOMPARE(m_window->txtInput(2)->text().contains(QLatin1Char('\n')), badLine);
-    m_prompts.answerMessage();
-    QVERIFY(!(saveAs ? m_window->SaveProjectAs() : m_window->SaveProject()));
-    QCOMPARE(m_prompts.messages().last(), message + QLatin1Char('\r') + target);
-    QCOMPARE(m_prompts.records().last().style, int(MessageStyle::Exclamation));
-    QCOMPARE(m_prompts.records().last().title, QStringLiteral("Error"));
-    QCOMPARE(m_window->windowTitle(), caption);
-    QCOMPARE(m_window->currentFilePath(), path);
-    QVERIFY(m_window->isDataChanged());
-    m_window->ClearProject();
+    const QString caption = m_fx.window->windowTitle();
+    const QString path = m_fx.window->currentFilePath();
+    m_fx.window->txtInput(2)->setText(badLine ? QStringLiteral("two\nlines") : QStringLiteral("x"));
+    QCOMPARE(m_fx.window->txtInput(2)->text().contains(QLatin1Char('\n')), badLine);
+    m_fx.prompts.answerMessage();
+    QVERIFY(!(saveAs ? m_fx.window->SaveProjectAs() : m_fx.window->SaveProject()));
+    QCOMPARE(m_fx.prompts.messages().last(), message + QLatin1Char('\r') + target);
+    QCOMPARE(m_fx.prompts.records().last().style, int(MessageStyle::Exclamation));
+    QCOMPARE(m_fx.prompts.records().last().title, QStringLiteral("Error"));
+    QCOMPARE(m_fx.window->windowTitle(), caption);
+    QCOMPARE(m_fx.window->currentFilePath(), path);
+    QVERIFY(m_fx.window->isDataChanged());
+    m_fx.window->ClearProject();
 }
 
 void tst_frmMain::deletedRecentFileIsReported()
 {
     const QString path = writeProject(QStringLiteral("deleted.swl"));
-    QVERIFY(m_window->OpenDataFile(path, OpenNormal));
-    m_window->txtInput(2)->setText(QStringLiteral("Still here"));
+    QVERIFY(m_fx.window->OpenDataFile(path, OpenNormal));
+    m_fx.window->txtInput(2)->setText(QStringLiteral("Still here"));
     QVERIFY(QFile::remove(path));
-    m_prompts.answerMessage(MessageAnswer::No);
-    m_prompts.answerMessage();
-    m_window->menus().mnuFile_Recent[1]->trigger();
-    QCOMPARE(m_prompts.messages().last(), QStringLiteral("File not found:\r") + path);
-    QCOMPARE(m_window->txtInput(2)->text(), QStringLiteral("Still here"));
-    QCOMPARE(m_window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + path);
-    QVERIFY(m_window->isDataChanged());
-    m_window->ClearProject();
+    m_fx.prompts.answerMessage(MessageAnswer::No);
+    m_fx.prompts.answerMessage();
+    m_fx.window->menus().mnuFile_Recent[1]->trigger();
+    QCOMPARE(m_fx.prompts.messages().last(), QStringLiteral("File not found:\r") + path);
+    QCOMPARE(m_fx.window->txtInput(2)->text(), QStringLiteral("Still here"));
+    QCOMPARE(m_fx.window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + path);
+    QVERIFY(m_fx.window->isDataChanged());
+    m_fx.window->ClearProject();
+}
+
+void tst_frmMain::unreadableProjectLeavesTheDocument_data()
+{
+    QTest::addColumn<bool>("pipe");
+    QTest::newRow("damaged project") << false;
+    // Opening a named pipe would wait for a writer for ever: it is refused as no plain file.
+    QTest::newRow("named pipe nobody writes") << true;
 }
 
 void tst_frmMain::unreadableProjectLeavesTheDocument()
 {
-    openExample(1);
-    const QString before = m_window->windowTitle();
-    const QString path = QString::fromStdString(m_folders.documentsFolder) + "damaged.swl";
-    QFile damaged(path);
-    QVERIFY(damaged.open(QIODevice::WriteOnly));
-    damaged.write("Swale_03\r\nonly a line\r\n");
-    damaged.close();
-    m_prompts.answerOpen(path);
-    m_prompts.answerMessage();
-    m_window->menus().mnuFile_Open->trigger();
-    QCOMPARE(m_prompts.messages().last(), QStringLiteral("Unable to open file:\r") + path);
-    QCOMPARE(m_window->windowTitle(), before);
-    QVERIFY(!m_window->isDataChanged());
-    QVERIFY(!m_window->txtInput(5)->text().isEmpty());
-    QVERIFY(!m_window->menus().mnuFile_Recent[1]->isVisible());
+    QFETCH(bool, pipe);
+    const QString kept = writeProject(QStringLiteral("kept.swl"));
+    QVERIFY(m_fx.window->OpenDataFile(kept, OpenNormal));
+    const QString before = m_fx.window->windowTitle();
+    const QString path = m_fx.documentsFile(QStringLiteral("damaged.swl"));
+    if (pipe) {
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0644), 0);
+    } else {
+        QFile damaged(path);
+        QVERIFY(damaged.open(QIODevice::WriteOnly));
+        damaged.write("Swale_03\r\nonly a line\r\n");
+    }
+    m_fx.prompts.answerOpen(path);
+    m_fx.prompts.answerMessage();
+    m_fx.window->menus().mnuFile_Open->trigger();
+    QCOMPARE(m_fx.prompts.messages().last(), QStringLiteral("Unable to open file:\r") + path);
+    QCOMPARE(m_fx.window->windowTitle(), before);
+    QCOMPARE(m_fx.window->currentFilePath(), kept);
+    QVERIFY(!m_fx.window->isDataChanged());
+    QVERIFY(!m_fx.window->txtInput(5)->text().isEmpty());
+    QVERIFY(!m_fx.window->menus().mnuFile_Recent[2]->isVisible());
 }
 
 void tst_frmMain::calculateMatchesTheCalculator_data()
@@ -631,134 +539,130 @@ void tst_frmMain::calculateMatchesTheCalculator_data()
 void tst_frmMain::calculateMatchesTheCalculator()
 {
     QFETCH(int, example);
-    const QJsonObject expected = calculatorJson(exampleSource(kExamples.at(example - 1)));
+    const CalcRun run
+            = runCalc({ "--json", exampleSource(kExamples.at(example - 1)).toStdString() });
+    const QJsonObject expected
+            = QJsonDocument::fromJson(QByteArray::fromStdString(run.out)).object();
     QCOMPARE(expected.value(QStringLiteral("status")).toString(), QStringLiteral("ok"));
     const QJsonArray results = expected.value(QStringLiteral("results")).toArray();
     QCOMPARE(results.size(), 18);
 
     openExample(example);
-    m_window->calculateButton()->click();
-    QVERIFY(m_prompts.records().isEmpty());
+    m_fx.window->calculateButton()->click();
+    QVERIFY(m_fx.prompts.records().isEmpty());
     for (int box = 1; box <= 18; ++box)
-        QCOMPARE(m_window->txtOutput(box)->text(), results.at(box - 1).toString());
+        QCOMPARE(m_fx.window->txtOutput(box)->text(), results.at(box - 1).toString());
     QCOMPARE(QApplication::clipboard()->text(), clipboardOf(results));
-    QCOMPARE(m_window->tabs()->currentIndex(), 1);
-    QVERIFY(m_window->resultsShown());
-    QVERIFY(m_window->isDataChanged());
-    QVERIFY(m_window->menus().toolbarPrint()->isEnabled());
-    QVERIFY(m_window->txtOutput(7)->isWriteProtected());
+    QCOMPARE(m_fx.window->tabs()->currentIndex(), 1);
+    QVERIFY(m_fx.window->resultsShown());
+    QVERIFY(m_fx.window->isDataChanged());
+    QVERIFY(m_fx.window->menus().toolbarPrint()->isEnabled());
+    QVERIFY(m_fx.window->txtOutput(7)->isWriteProtected());
 
     // A second calculation gives the same texts.
-    m_window->calculateButton()->click();
-    QCOMPARE(m_window->txtOutput(7)->text(), results.at(6).toString());
-    m_window->ClearProject();
+    m_fx.window->calculateButton()->click();
+    QCOMPARE(m_fx.window->txtOutput(7)->text(), results.at(6).toString());
+    m_fx.window->ClearProject();
 }
 
-void tst_frmMain::faultOnResultsPageReturnsToTheBox()
+void tst_frmMain::faultsAreShownWhereTheyAre_data()
 {
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    openExample(1);
-    m_window->txtInput(12)->setText(QStringLiteral("   "));
-    m_window->tabs()->setCurrentIndex(1);
-    m_prompts.answerMessage();
-    m_window->calculateButton()->click();
-    QCOMPARE(m_prompts.messages(), QStringList { QStringLiteral("Missing data.") });
-    QCOMPARE(m_prompts.records().constFirst().style, int(MessageStyle::Exclamation));
-    QCOMPARE(m_prompts.records().constFirst().title, QStringLiteral("Error"));
-    QCOMPARE(m_window->tabs()->currentIndex(), 0);
-    QVERIFY(m_window->txtInput(12)->hasFocus());
-    QVERIFY(!m_window->resultsShown());
-    m_window->ClearProject();
+    QTest::addColumn<int>("example");
+    QTest::addColumn<int>("box"); // the box emptied or set to 0; 0: rating-curve cell (3, 2)
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("style");
+    QTest::newRow("empty box, from the results page")
+            << 1 << 12 << "   "
+            << "Missing data." << int(MessageStyle::Exclamation);
+    QTest::newRow("rating-curve cell")
+            << 3 << 0 << ""
+            << "Missing data.  (Rating curve:  Row 3, Col 2)" << int(MessageStyle::Exclamation);
+    QTest::newRow("calculation failure") << 1 << 19 << "0"
+                                         << "Arithmetic error in the calculation: division by zero"
+                                         << int(MessageStyle::Critical);
 }
 
-void tst_frmMain::ratingCurveFaultSelectsTheCell()
+// A fault returns to the input page and focuses its box or cell; a failure shows the critical
+// message. Either way no results are shown.
+void tst_frmMain::faultsAreShownWhereTheyAre()
 {
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    openExample(3);
-    RdcGridA *grid = m_window->inputPage()->ratingCurveGrid();
-    grid->setText(3, 2, QString());
-    m_prompts.answerMessage();
-    m_window->calculateButton()->click();
-    QCOMPARE(m_prompts.messages(),
-             QStringList { QStringLiteral("Missing data.  (Rating curve:  Row 3, Col 2)") });
-    QCOMPARE(grid->row(), 3);
-    QCOMPARE(grid->Col(), 2);
-    QVERIFY(grid->isAncestorOf(QApplication::focusWidget()) || grid->hasFocus());
-    m_window->ClearProject();
-}
-
-void tst_frmMain::calculationFailureShowsCriticalMessage()
-{
-    openExample(1);
-    m_window->txtInput(19)->setText(QStringLiteral("0"));
-    m_prompts.answerMessage();
-    m_window->calculateButton()->click();
-    QCOMPARE(m_prompts.messages(),
-             QStringList {
-                     QStringLiteral("Arithmetic error in the calculation: division by zero") });
-    QCOMPARE(m_prompts.records().constFirst().style, int(MessageStyle::Critical));
-    QVERIFY(!m_window->resultsShown());
-    QCOMPARE(m_window->tabs()->currentIndex(), 0);
-    m_window->ClearProject();
+    QFETCH(int, example);
+    QFETCH(int, box);
+    QFETCH(QString, text);
+    QFETCH(QString, message);
+    QFETCH(int, style);
+    showActive();
+    openExample(example);
+    RdcGridA *grid = m_fx.window->inputPage()->ratingCurveGrid();
+    if (box)
+        m_fx.window->txtInput(box)->setText(text);
+    else
+        grid->setText(3, 2, text);
+    const bool failure = style == int(MessageStyle::Critical);
+    if (!failure) // a fault found from the results page goes back to the input page
+        m_fx.window->tabs()->setCurrentIndex(1);
+    m_fx.prompts.answerMessage();
+    m_fx.window->calculateButton()->click();
+    QCOMPARE(m_fx.prompts.messages(), QStringList { message });
+    QCOMPARE(m_fx.prompts.records().constFirst().style, style);
+    QCOMPARE(m_fx.prompts.records().constFirst().title, QStringLiteral("Error"));
+    QCOMPARE(m_fx.window->tabs()->currentIndex(), 0);
+    QVERIFY(!m_fx.window->resultsShown());
+    if (failure) {
+        QVERIFY(m_fx.window->isDataChanged());
+    } else if (box) {
+        QVERIFY(m_fx.window->txtInput(box)->hasFocus());
+    } else {
+        QCOMPARE(grid->row(), 3);
+        QCOMPARE(grid->Col(), 2);
+        QVERIFY(grid->isAncestorOf(QApplication::focusWidget()) || grid->hasFocus());
+    }
+    m_fx.window->ClearProject();
 }
 
 // Export PDF asks for a file name beside the data, then writes the report of the window's texts.
 void tst_frmMain::exportPdfWritesTheReportWhereTheUserSays()
 {
     openExample(2);
-    m_window->calculateButton()->click();
-    const QString pdf = m_folder->filePath(QStringLiteral("documents/report.pdf"));
-    m_prompts.answerSave(pdf);
-    m_window->menus().mnuFile_ExportPdf->trigger();
-    QCOMPARE(m_prompts.records().size(), 1);
-    const FileDialogRequest &request = m_prompts.records().at(0).request;
+    m_fx.window->calculateButton()->click();
+    const QString pdf = m_fx.folder->filePath(QStringLiteral("documents/report.pdf"));
+    m_fx.prompts.answerSave(pdf);
+    m_fx.window->menus().mnuFile_ExportPdf->trigger();
+    QCOMPARE(m_fx.prompts.records().size(), 1);
+    const FileDialogRequest &request = m_fx.prompts.records().at(0).request;
     QCOMPARE(request.filters, QStringList { QStringLiteral("PDF Files (*.pdf)") });
     QVERIFY(request.fileName.endsWith(QStringLiteral(".pdf")));
     QFile written(pdf);
     QVERIFY(written.open(QIODevice::ReadOnly));
     QVERIFY(written.read(5) == "%PDF-");
-
-    // Cancelling the dialog writes nothing.
-    QVERIFY(QFile::remove(pdf));
-    m_prompts.answerSave(QString());
-    m_window->menus().mnuFile_ExportPdf->trigger();
-    QVERIFY(!QFile::exists(pdf));
 }
 
 void tst_frmMain::printNeedsResultsAndAPrinter()
 {
-    emit m_window->menus().mnuFile->aboutToShow();
-    QVERIFY(!m_window->menus().mnuFile_Print->isEnabled());
+    emit m_fx.window->menus().mnuFile->aboutToShow();
+    QVERIFY(!m_fx.window->menus().mnuFile_Print->isEnabled());
     openExample(4);
-    m_window->calculateButton()->click();
-    emit m_window->menus().mnuFile->aboutToShow();
-    QVERIFY(m_window->menus().mnuFile_Print->isEnabled());
-    // The test machine has no printer.
-    m_prompts.answerMessage();
-    m_window->menus().mnuFile_Print->trigger();
-    QCOMPARE(m_prompts.messages(),
-             QStringList { QStringLiteral("Unable to establish connection with printer.") });
-    m_window->ClearProject();
-    emit m_window->menus().mnuFile->aboutToShow();
-    QVERIFY(!m_window->menus().mnuFile_Print->isEnabled());
+    m_fx.window->calculateButton()->click();
+    emit m_fx.window->menus().mnuFile->aboutToShow();
+    QVERIFY(m_fx.window->menus().mnuFile_Print->isEnabled());
+    m_fx.window->ClearProject();
+    emit m_fx.window->menus().mnuFile->aboutToShow();
+    QVERIFY(!m_fx.window->menus().mnuFile_Print->isEnabled());
 }
 
 void tst_frmMain::helpButtonsOpenTheirTopics()
 {
-    auto *help2 = m_window->findChild<QPushButton *>(QStringLiteral("cmdHelp_2"));
+    auto *help2 = m_fx.window->findChild<QPushButton *>(QStringLiteral("cmdHelp_2"));
     help2->click(); // no topic in the program folder: nothing happens
-    QVERIFY(!m_window->findChild<HelpViewer *>());
+    QVERIFY(!m_fx.window->findChild<HelpViewer *>());
 
-    QFile topic(QString::fromStdString(m_folders.programFolder) + "help/2.html");
+    QFile topic(QString::fromStdString(m_fx.folders.programFolder) + "help/2.html");
     QVERIFY(topic.open(QIODevice::WriteOnly));
     topic.write("<html><head><title>Roughness</title></head><body>n</body></html>");
     topic.close();
     help2->click();
-    auto *viewer = m_window->findChild<HelpViewer *>();
+    auto *viewer = m_fx.window->findChild<HelpViewer *>();
     QVERIFY(viewer);
     QVERIFY(viewer->isVisible());
     QCOMPARE(viewer->browser()->source().fileName(), QStringLiteral("2.html"));
@@ -767,25 +671,72 @@ void tst_frmMain::helpButtonsOpenTheirTopics()
 
 void tst_frmMain::settingsRoundTrip()
 {
-    m_window->show();
-    m_window->resize(900, 700);
-    m_window->move(40, 30);
+    m_fx.window->show();
+    m_fx.window->resize(900, 700);
+    m_fx.window->move(40, 30);
     const QString path = writeProject(QStringLiteral("recent.swl"));
-    QVERIFY(m_window->OpenDataFile(path, OpenNormal));
-    m_window->helpImage()->cmd_HelpImageSize(3);
-    QVERIFY(m_window->close());
-    QFile state(settingsFile("WindowState.ini"));
+    QVERIFY(m_fx.window->OpenDataFile(path, OpenNormal));
+    m_fx.window->helpImage()->cmd_HelpImageSize(3);
+    QVERIFY(m_fx.window->close());
+    QFile state(m_fx.settingsFile("WindowState.ini"));
     QVERIFY(state.open(QIODevice::ReadOnly));
     const QByteArray content = state.readAll();
     QVERIFY2(content.startsWith("State=0\r\nTop="), content.constData());
     QVERIFY(content.contains("Height=10500\r\n"));
     QVERIFY(content.contains("Width=13500\r\n"));
 
-    makeWindow();
-    QCOMPARE(m_window->size(), QSize(900, 700));
-    QCOMPARE(m_window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + path);
-    QVERIFY(m_window->menus().mnuHelp_Image_Size[3]->isChecked());
-    QVERIFY(!m_window->menus().mnuHelp_Image_Size[2]->isChecked());
+    m_fx.makeWindow();
+    QCOMPARE(m_fx.window->size(), QSize(900, 700));
+    QCOMPARE(m_fx.window->menus().mnuFile_Recent[1]->text(), QStringLiteral("&1 ") + path);
+    QVERIFY(m_fx.window->menus().mnuHelp_Image_Size[3]->isChecked());
+    QVERIFY(!m_fx.window->menus().mnuHelp_Image_Size[2]->isChecked());
+}
+
+// Until the panels were sized to a tab with room in it, switching tabs shows no panel; the
+// first resize with room shows the current tab's panel.
+void tst_frmMain::panelsWaitForRoomInTheTab()
+{
+    QTabWidget *tabs = m_fx.window->tabs();
+    showActive();
+    for (int tab = 0; tab < 3; ++tab)
+        QVERIFY(m_fx.window->isPanelShown(tab));
+    QVERIFY(tabs->widget(0)->isVisible());
+
+    m_fx.window->fitPanelsToTabArea(QSize(300, 0));
+    QVERIFY(!m_fx.window->isPanelShown(1));
+    QVERIFY(!tabs->widget(0)->isVisible());
+    tabs->setCurrentIndex(1);
+    QVERIFY(!tabs->widget(1)->isVisible());
+
+    m_fx.window->fitPanelsToTabArea(QSize(300, 200));
+    QVERIFY(tabs->widget(1)->isVisible());
+    QVERIFY(!tabs->widget(0)->isVisible());
+    tabs->setCurrentIndex(2);
+    QVERIFY(tabs->widget(2)->isVisible());
+    QVERIFY(!tabs->widget(1)->isVisible());
+
+    // A real resize of the window gives the panels the room of the tab again.
+    m_fx.window->fitPanelsToTabArea(QSize(0, 0));
+    QVERIFY(!tabs->widget(2)->isVisible());
+    m_fx.window->resize(500, 400);
+    QTRY_VERIFY(m_fx.window->isPanelShown(0));
+    QVERIFY(tabs->widget(2)->isVisible());
+}
+
+// In a window too small for the page, the focused box is scrolled into view.
+void tst_frmMain::smallWindowScrollsToTheFocusedBox()
+{
+    showActive();
+    m_fx.window->resize(520, 360);
+    QApplication::processEvents();
+    ScrollingPage *page = m_fx.window->page(0);
+    QVERIFY(page->vscScrollWindow()->isVisible());
+    tvrEditBox *last = m_fx.window->txtInput(23);
+    last->setFocus();
+    QCOMPARE(last->mapTo(page, QPoint(0, last->height())).y(), page->visibleHeight());
+    QTest::keyClick(last->editor(), Qt::Key_Down); // wraps to the job name
+    QCOMPARE(QApplication::focusWidget(), m_fx.window->txtInput(1)->editor());
+    QCOMPARE(m_fx.window->txtInput(1)->mapTo(page, QPoint(0, 0)).y(), 0);
 }
 
 QTEST_MAIN(tst_frmMain)
