@@ -3,7 +3,7 @@
 BUILD_DIR ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: run test build deps bench differential clean test-sanitized install package
+.PHONY: run test build deps bench differential clean test-sanitized install package format format-check
 
 run: build
 	@scripts/run.sh $(BUILD_DIR)
@@ -58,3 +58,11 @@ FUZZ_BUILD_DIR ?= build-fuzz
 .PHONY: fuzz
 fuzz:
 	FUZZ_TIME=$(FUZZ_TIME) JOBS=$(JOBS) scripts/run-fuzzers.sh $(FUZZ_BUILD_DIR)
+
+# The tree is kept formatted by the committed .clang-format (Qt's style).
+CLANG_FORMAT ?= clang-format-14
+format-check: deps
+	git ls-files '*.cpp' '*.h' | xargs $(CLANG_FORMAT) --dry-run --Werror
+
+format: deps
+	git ls-files '*.cpp' '*.h' | xargs $(CLANG_FORMAT) -i

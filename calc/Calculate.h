@@ -32,7 +32,7 @@ struct CalculationOutcome
         Failed, // failureMessages hold the "Error" boxes the window shows, in order
     };
     Status status = Status::Failed;
-    std::array<std::string, kOutputCount + 1> results{}; // [0] unused: text of txtOutput(1..18)
+    std::array<std::string, kOutputCount + 1> results {}; // [0] unused: text of txtOutput(1..18)
     std::string clipboardText;
     ValidationFault fault;
     std::vector<std::string> failureMessages;

@@ -44,8 +44,16 @@ const std::array<const char *, kChannelFlowMethodCount + 1> kChannelFlowMethodCa
 };
 
 const std::array<const char *, 10> kInputSectionHeadings = {
-    "",           "Solution Method",   "Channel Geometry", "Efficiency", "Channel Flow",
-    "Runoff Hydrograph", "Channel Flow Rate", "Flow Velocity", "Aquifer",   "Inlet Rating Curve",
+    "",
+    "Solution Method",
+    "Channel Geometry",
+    "Efficiency",
+    "Channel Flow",
+    "Runoff Hydrograph",
+    "Channel Flow Rate",
+    "Flow Velocity",
+    "Aquifer",
+    "Inlet Rating Curve",
 };
 
 const InputBoxInfo &inputBox(int index)

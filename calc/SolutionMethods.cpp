@@ -72,8 +72,8 @@ bool requiredLength(SwaleInputData &data, CalcContext &context)
         Qip = checkedDivide(data.MaxInfiltrationVolume, data.FlowDuration * kSecondsPerMinute);
     }
     data.InfiltrationAtNormalDepth = Qip;
-    data.EffectiveBottomArea =
-            checkedDivide(Qip, checkedDivide(data.DesignInfiltrationRate, kSecondsPerDay));
+    data.EffectiveBottomArea
+            = checkedDivide(Qip, checkedDivide(data.DesignInfiltrationRate, kSecondsPerDay));
     const double L1 = checkedDivide(data.EffectiveBottomArea, data.WettedPerimeter);
     const double L2 = checkedDivide(
             data.MaxInfiltrationVolume,
@@ -104,10 +104,10 @@ bool efficiency(SwaleInputData &data, CalcContext &context)
         data.MaxInfiltrationVolume = hydrographVolume(data, data.InfiltrationAtNormalDepth);
     data.SoilStorageVolume = soilStorage(data, L);
     // No cap: with a short storm and a long Tc the clipped volume can exceed Vr, e above 100.
-    data.ResultEfficiency = checkedFinite(
-            checkedDivide(MinOf(data.SoilStorageVolume, data.MaxInfiltrationVolume),
-                          data.RunoffVolume)
-            * 100);
+    data.ResultEfficiency
+            = checkedFinite(checkedDivide(MinOf(data.SoilStorageVolume, data.MaxInfiltrationVolume),
+                                          data.RunoffVolume)
+                            * 100);
     data.ResultLength = L;
     return true;
 }
@@ -129,8 +129,7 @@ bool inletChannel(SwaleInputData &data, CalcContext &context)
     data.InletDischarge = q;
     // No test of q against Qp here: the clipped hydrograph is used even for a large inlet.
     data.InletVolume = hydrographVolume(data, q);
-    data.ResultEfficiency =
-            checkedFinite(checkedDivide(data.InletVolume, data.RunoffVolume) * 100);
+    data.ResultEfficiency = checkedFinite(checkedDivide(data.InletVolume, data.RunoffVolume) * 100);
     return true;
 }
 

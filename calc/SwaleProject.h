@@ -17,15 +17,15 @@ constexpr int kRatingCurveGridRows = 50;
 // and the command-line tool all read and write this one shape.
 struct SwaleProject
 {
-    std::array<std::string, kInputCount + 1> inputText{}; // [0] unused: boxes are 1 to 23
+    std::array<std::string, kInputCount + 1> inputText {}; // [0] unused: boxes are 1 to 23
     int solutionMethod = 0; // chosen optCalculate button, 1 to 4; 0 when none is chosen
     int channelFlowMethod = 0; // chosen optChannelFlow button, 1 or 2; 0 when none is chosen
     // Rating-curve cell texts: data row r (from 1) is ratingCurve[r - 1], column c (1 depth,
     // 2 discharge) is [c - 1].
-    std::vector<std::array<std::string, 2>> ratingCurve =
-            std::vector<std::array<std::string, 2>>(kRatingCurveGridRows);
+    std::vector<std::array<std::string, 2>> ratingCurve
+            = std::vector<std::array<std::string, 2>>(kRatingCurveGridRows);
     bool resultsShown = false; // the output texts are the results of the current inputs
-    std::array<std::string, kOutputCount + 1> outputText{}; // [0] unused: boxes are 1 to 18
+    std::array<std::string, kOutputCount + 1> outputText {}; // [0] unused: boxes are 1 to 18
 
     int ratingCurveRowCount() const { return static_cast<int>(ratingCurve.size()); }
     // Text of cell (row, col); "" for a row beyond the grid.

@@ -164,11 +164,12 @@ bool PrintRoutine::pageSetup()
 bool PrintRoutine::exportPdf(const SwaleProject &project, const ReportSource &source,
                              const QString &dataFolder, QString *writtenPath)
 {
-    const QString path = m_prompts.askSaveFileName(
-            pdfFileRequest(suggestedPdfPath(source, dataFolder)));
+    const QString path
+            = m_prompts.askSaveFileName(pdfFileRequest(suggestedPdfPath(source, dataFolder)));
     if (path.isEmpty())
         return false;
-    if (!writeReportPdf(path, project, source, m_setup, currentMargins(), nullptr, m_extraSections)) {
+    if (!writeReportPdf(path, project, source, m_setup, currentMargins(), nullptr,
+                        m_extraSections)) {
         m_prompts.ShowErrorMessage(QLatin1String(kErrorWritingToFileMessage) + QLatin1Char('\r')
                                            + path,
                                    MessageStyle::Exclamation, QLatin1String(kErrorTitle));

@@ -93,7 +93,6 @@ QString suggestedPdfPath(const ReportSource &source, const QString &dataFolder);
 // Writes the report of `project` to `pdfPath` on the paper of `setup` with `margins`, followed
 // by `extraSections`. The file is replaced only once the whole report was written. Returns false
 // with the reason in `error`. Needs a QGuiApplication (fonts).
-bool writeReportPdf(const QString &pdfPath, const SwaleProject &project,
-                    const ReportSource &source, const ReportPageSetup &setup,
-                    const PageMargins &margins, QString *error = nullptr,
-                    const std::vector<ReportSection> &extraSections = {});
+bool writeReportPdf(const QString &pdfPath, const SwaleProject &project, const ReportSource &source,
+                    const ReportPageSetup &setup, const PageMargins &margins,
+                    QString *error = nullptr, const std::vector<ReportSection> &extraSections = {});

@@ -75,7 +75,8 @@ bool clsTextParser::GetFirstToken(std::string &token)
 bool clsTextParser::GetNextToken(std::string &token)
 {
     // The cursor stays on the separating blank.
-    return readToken(m_text, m_length, m_position, [](char c) { return c == ' '; }, 0, token);
+    return readToken(
+            m_text, m_length, m_position, [](char c) { return c == ' '; }, 0, token);
 }
 
 void clsTextParserExt::setText(const std::string &text)
@@ -99,6 +100,8 @@ bool clsTextParserExt::GetFirstToken(std::string &token)
 bool clsTextParserExt::GetNextToken(std::string &token)
 {
     const std::string &delimiters = activeDelimiters();
-    const auto isDelimiter = [&delimiters](char c) { return delimiters.find(c) != std::string::npos; };
-    return readToken(m_text, m_length, m_position, isDelimiter, 1, token); // the delimiter is consumed
+    const auto isDelimiter
+            = [&delimiters](char c) { return delimiters.find(c) != std::string::npos; };
+    return readToken(m_text, m_length, m_position, isDelimiter, 1,
+                     token); // the delimiter is consumed
 }

@@ -10,12 +10,16 @@
 HelpImagePanel::HelpImagePanel(ctrlPictureViewer &viewer, const GlobalData &folders,
                                const SizeEntries &menuSizes, const SizeEntries &popupSizes,
                                QMenu &popup, QAction &copy, QObject *parent)
-    : QObject(parent), m_viewer(viewer), m_folders(folders), m_menuSizes(menuSizes),
-      m_popupSizes(popupSizes), m_popup(popup)
+    : QObject(parent)
+    , m_viewer(viewer)
+    , m_folders(folders)
+    , m_menuSizes(menuSizes)
+    , m_popupSizes(popupSizes)
+    , m_popup(popup)
 {
     for (int size = 1; size <= kHelpImageSizeCount; ++size) {
-        for (QAction *entry : { m_menuSizes[static_cast<size_t>(size)],
-                                m_popupSizes[static_cast<size_t>(size)] }) {
+        for (QAction *entry :
+             { m_menuSizes[static_cast<size_t>(size)], m_popupSizes[static_cast<size_t>(size)] }) {
             connect(entry, &QAction::triggered, this, [this, size] { cmd_HelpImageSize(size); });
         }
     }

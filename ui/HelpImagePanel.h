@@ -53,6 +53,6 @@ private:
     SizeEntries m_menuSizes;
     SizeEntries m_popupSizes;
     QMenu &m_popup;
-    HelpImageFiles m_files{};
+    HelpImageFiles m_files {};
     int m_size = kDefaultSize;
 };

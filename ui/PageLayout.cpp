@@ -14,11 +14,15 @@
 #include <vector>
 
 PageUnits::PageUnits(const QFontMetrics &metrics)
-    : xWidth(metrics.horizontalAdvance(QLatin1Char('X'))), xHeight(metrics.height()),
-      boxGap(xHeight / 4), headingGap(xHeight + 10), underHeading(xHeight / 2),
-      margin(2 * xWidth), indent(2 * xWidth), besideGap(xWidth)
-{
-}
+    : xWidth(metrics.horizontalAdvance(QLatin1Char('X')))
+    , xHeight(metrics.height())
+    , boxGap(xHeight / 4)
+    , headingGap(xHeight + 10)
+    , underHeading(xHeight / 2)
+    , margin(2 * xWidth)
+    , indent(2 * xWidth)
+    , besideGap(xWidth)
+{ }
 
 namespace PageLayout {
 namespace {
@@ -33,7 +37,10 @@ constexpr int kResultWidthInX = 14;
 class PageWalk
 {
 public:
-    explicit PageWalk(const PageUnits &units) : m_units(units), m_top(units.margin) { }
+    explicit PageWalk(const PageUnits &units)
+        : m_units(units)
+        , m_top(units.margin)
+    { }
 
     // Puts `item` at `left`, `gap` below the previous item (no gap above the first one).
     void place(QWidget *item, int left, int gap)
@@ -125,9 +132,9 @@ struct InputSection
     int firstBox;
     int lastBox;
 };
-constexpr InputSection kInputSections[] = { { 1, 3 },   { 0, 0 },   { 4, 8 },   { 9, 9 },
-                                            { 0, 0 },   { 10, 14 }, { 15, 16 }, { 17, 19 },
-                                            { 20, 23 }, { 0, 0 } };
+constexpr InputSection kInputSections[]
+        = { { 1, 3 },   { 0, 0 },   { 4, 8 },   { 9, 9 },   { 0, 0 },
+            { 10, 14 }, { 15, 16 }, { 17, 19 }, { 20, 23 }, { 0, 0 } };
 
 // The widget that stands under heading `section` instead of boxes, if any.
 QWidget *sectionContent(const InputPageControls &c, int section)
@@ -197,8 +204,8 @@ QSize LayoutInputPage(const InputPageControls &c, int solutionMethod, int channe
     const int boxLeft = units.margin + units.indent;
     std::vector<QLabel *> headings;
     for (int section = 0; section <= 9; ++section) {
-        if (section > 0 && !PageRules::isInputSectionShown(section, solutionMethod,
-                                                            channelFlowMethod)) {
+        if (section > 0
+            && !PageRules::isInputSectionShown(section, solutionMethod, channelFlowMethod)) {
             hideInputSection(c, section);
             continue;
         }

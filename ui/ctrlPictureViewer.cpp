@@ -7,7 +7,9 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 
-ctrlPictureViewer::ctrlPictureViewer(QWidget *parent) : QScrollArea(parent), m_canvas(new QLabel)
+ctrlPictureViewer::ctrlPictureViewer(QWidget *parent)
+    : QScrollArea(parent)
+    , m_canvas(new QLabel)
 {
     m_canvas->setObjectName(QStringLiteral("picture"));
     m_canvas->setAlignment(Qt::AlignCenter);

@@ -11,19 +11,17 @@ TEST(Calculate, FillsTheBoxesOfEachMethod)
 {
     // Which boxes hold a value under each method (1 = filled).
     const char *filled[] = {
-        "",
-        "111111111111111111",
-        "111111111111111111",
-        "011111111111100110",
-        "001111111111100000",
+        "", "111111111111111111", "111111111111111111", "011111111111100110", "001111111111100000",
     };
     for (int method = 1; method <= 4; ++method) {
         SCOPED_TRACE(method);
         const CalculationOutcome out = Calculate(validProject(method));
-        ASSERT_EQ(out.status, Status::Ok) << (out.failureMessages.empty() ? out.fault.message : out.failureMessages[0]);
+        ASSERT_EQ(out.status, Status::Ok)
+                << (out.failureMessages.empty() ? out.fault.message : out.failureMessages[0]);
         for (int box = 1; box <= kOutputCount; ++box) {
             SCOPED_TRACE(box);
-            EXPECT_EQ(!out.results[static_cast<size_t>(box)].empty(), filled[method][box - 1] == '1');
+            EXPECT_EQ(!out.results[static_cast<size_t>(box)].empty(),
+                      filled[method][box - 1] == '1');
         }
         EXPECT_EQ(out.results[13], out.results[3]);
     }
@@ -88,7 +86,11 @@ TEST(Calculate, RefusesAResultTooLargeForSinglePrecision)
 
 TEST(OutputTable, CaptionsFollowTheChosenOptions)
 {
-    struct Case { int box, method, flow; const char *caption; };
+    struct Case
+    {
+        int box, method, flow;
+        const char *caption;
+    };
     const Case cases[] = {
         { 2, 3, 1, "Treatment/interception efficiency, [e]" },
         { 2, 4, 1, "Treatment efficiency, [e]" },

@@ -84,7 +84,8 @@ TEST(SolveNormalDepth, ReportsNonConvergenceWithTheSettingsAsText)
     context.settings.NormalDepthMaxIterations = 10;
     EXPECT_FALSE(SolveNormalDepth(data, context));
     EXPECT_EQ(context.CalculationErrorMessage,
-              "Unable to find Normal Depth of Flow at tolerance of 1E-07 and Maximum Iterations of 10");
+              "Unable to find Normal Depth of Flow at tolerance of 1E-07 and Maximum Iterations of "
+              "10");
     EXPECT_EQ(data.NormalDepth, 0.0); // left as it was
     EXPECT_GT(data.FlowArea, 0.0); // the last trial's section
 
@@ -95,13 +96,20 @@ TEST(SolveNormalDepth, ReportsNonConvergenceWithTheSettingsAsText)
 
 TEST(SolveNormalDepth, TurnsArithmeticFaultsIntoMessages)
 {
-    struct Case { const char *name; double n; double Qp; const char *message; };
+    struct Case
+    {
+        const char *name;
+        double n;
+        double Qp;
+        const char *message;
+    };
     const Case cases[] = {
         { "zero roughness", 0, 10, "Arithmetic error in the calculation: division by zero" },
         // A roughness of -1E-50 passes validation (it is -0 in single precision); the trial
         // depth then doubles without end.
         { "negative tiny roughness", -1e-50, 10, "Arithmetic error in the calculation: overflow" },
-        { "flow beyond the double range", 0.03, 1e308 * 10, "Arithmetic error in the calculation: overflow" },
+        { "flow beyond the double range", 0.03, 1e308 * 10,
+          "Arithmetic error in the calculation: overflow" },
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);

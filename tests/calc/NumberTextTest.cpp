@@ -8,15 +8,19 @@
 
 TEST(NumberRecognition, AcceptsTheNumbersOfTheInputBoxes)
 {
-    struct Case { const char *text; bool recognised; };
+    struct Case
+    {
+        const char *text;
+        bool recognised;
+    };
     const Case cases[] = {
-        { "0", true },        { "  12.5  ", true }, { "-1", true },       { "+3", true },
-        { "1,500", true },    { "1,500.25", true }, { "$12", true },      { "-$3.5", true },
-        { ".035", true },     { "5.", true },       { "2.5e3", true },    { "1E-07", true },
-        { "7e+2", true },     { "abc", false },     { "", false },        { "   ", false },
-        { ".", false },       { "-", false },       { "1e", false },      { "1.2.3", false },
-        { ",5", false },      { "5 5", false },     { "$-3", false },     { "e5", false },
-        { "12abc", false },   { "1e5.5", false },   { "\t1", false },
+        { "0", true },      { "  12.5  ", true }, { "-1", true },    { "+3", true },
+        { "1,500", true },  { "1,500.25", true }, { "$12", true },   { "-$3.5", true },
+        { ".035", true },   { "5.", true },       { "2.5e3", true }, { "1E-07", true },
+        { "7e+2", true },   { "abc", false },     { "", false },     { "   ", false },
+        { ".", false },     { "-", false },       { "1e", false },   { "1.2.3", false },
+        { ",5", false },    { "5 5", false },     { "$-3", false },  { "e5", false },
+        { "12abc", false }, { "1e5.5", false },   { "\t1", false },
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.text);
@@ -26,12 +30,16 @@ TEST(NumberRecognition, AcceptsTheNumbersOfTheInputBoxes)
 
 TEST(NumberRecognition, LeadingNumberStopsAtTheFirstCharacterThatCannotContinue)
 {
-    struct Case { const char *text; double value; };
+    struct Case
+    {
+        const char *text;
+        double value;
+    };
     const Case cases[] = {
-        { "1,500", 1 },     { "2.5e3", 2500 }, { " 7 ", 7 },     { "5.", 5 },
-        { ".035", 0.035 },  { "-.5", -0.5 },   { "+4", 4 },      { "1e", 1 },
-        { "1e+", 1 },       { "3x", 3 },       { "$5", 0 },      { "abc", 0 },
-        { "", 0 },          { "1E-07", 1e-07 }, { "12.5.6", 12.5 }, { "-0", 0 },
+        { "1,500", 1 },    { "2.5e3", 2500 },  { " 7 ", 7 },       { "5.", 5 },
+        { ".035", 0.035 }, { "-.5", -0.5 },    { "+4", 4 },        { "1e", 1 },
+        { "1e+", 1 },      { "3x", 3 },        { "$5", 0 },        { "abc", 0 },
+        { "", 0 },         { "1E-07", 1e-07 }, { "12.5.6", 12.5 }, { "-0", 0 },
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.text);
@@ -52,11 +60,20 @@ TEST(NumberRecognition, IgnoresTheUsersLocale)
 
 TEST(NumberDisplay, FormatsSinglesWithSevenDigitsAndDoublesWithFifteen)
 {
-    struct Case { float value; const char *text; };
+    struct Case
+    {
+        float value;
+        const char *text;
+    };
     const Case singles[] = {
-        { 0.5f, "0.5" },         { -0.25f, "-0.25" }, { 0.0f, "0" },
-        { 1234567.0f, "1234567" }, { 12345678.0f, "1.234568E+07" },
-        { 1e-07f, "1E-07" },     { 10000.0f, "10000" }, { 0.1f, "0.1" },
+        { 0.5f, "0.5" },
+        { -0.25f, "-0.25" },
+        { 0.0f, "0" },
+        { 1234567.0f, "1234567" },
+        { 12345678.0f, "1.234568E+07" },
+        { 1e-07f, "1E-07" },
+        { 10000.0f, "10000" },
+        { 0.1f, "0.1" },
         { 1.0f / 3.0f, "0.3333333" },
     };
     for (const Case &c : singles) {

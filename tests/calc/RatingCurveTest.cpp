@@ -15,7 +15,9 @@ SwaleProject curve(const std::vector<std::pair<std::string, std::string>> &rows)
 TEST(CountRatingCurveRows, StopsAtTheFirstWhollyBlankRow)
 {
     EXPECT_EQ(CountRatingCurveRows(SwaleProject()), 0);
-    EXPECT_EQ(CountRatingCurveRows(curve({ { "0", "0" }, { "1", "" }, { " ", " " }, { "5", "5" } })), 2);
+    EXPECT_EQ(
+            CountRatingCurveRows(curve({ { "0", "0" }, { "1", "" }, { " ", " " }, { "5", "5" } })),
+            2);
     EXPECT_EQ(CountRatingCurveRows(curve({ { "", "0" } })), 1);
     SwaleProject full;
     for (int r = 1; r <= kRatingCurveGridRows; ++r)
@@ -33,23 +35,46 @@ TEST(ValidateRatingCurve, ReportsTheFirstFaultAndItsCell)
         int row, col;
     };
     const Case cases[] = {
-        { "one row then a blank row", { { "0", "0" } },
-          "There must be at least two lines of data in the rating curve.", 0, 0 },
-        { "row 3 without discharge", { { "0", "0" }, { "1", "1" }, { "2", "" } },
-          "Missing data.  (Rating curve:  Row 3, Col 2)", 3, 2 },
-        { "text in a depth", { { "0", "0" }, { "one", "1" } },
-          "Data is not numeric.  (Rating curve:  Row 2, Col 1)", 2, 1 },
-        { "first depth not zero", { { "0.5", "0" }, { "1", "1" } },
-          "Rating curve data must start at depth zero.", 1, 1 },
-        { "tiny first discharge", { { "0", "0.0001" }, { "1", "1" } },
-          "Rating curve data must start with zero discharge.", 1, 2 },
-        { "equal depths", { { "0", "0" }, { "2", "1" }, { "2", "3" } },
-          "Data are out of order.  (Rating curve:  Row 3, Col 1)", 3, 1 },
-        { "equal discharges", { { "0", "0" }, { "2", "1" }, { "3", "1" } },
-          "Dicharge rates must increase with depth.  (Rating curve:  Row 3, Col 2)", 3, 2 },
+        { "one row then a blank row",
+          { { "0", "0" } },
+          "There must be at least two lines of data in the rating curve.",
+          0,
+          0 },
+        { "row 3 without discharge",
+          { { "0", "0" }, { "1", "1" }, { "2", "" } },
+          "Missing data.  (Rating curve:  Row 3, Col 2)",
+          3,
+          2 },
+        { "text in a depth",
+          { { "0", "0" }, { "one", "1" } },
+          "Data is not numeric.  (Rating curve:  Row 2, Col 1)",
+          2,
+          1 },
+        { "first depth not zero",
+          { { "0.5", "0" }, { "1", "1" } },
+          "Rating curve data must start at depth zero.",
+          1,
+          1 },
+        { "tiny first discharge",
+          { { "0", "0.0001" }, { "1", "1" } },
+          "Rating curve data must start with zero discharge.",
+          1,
+          2 },
+        { "equal depths",
+          { { "0", "0" }, { "2", "1" }, { "2", "3" } },
+          "Data are out of order.  (Rating curve:  Row 3, Col 1)",
+          3,
+          1 },
+        { "equal discharges",
+          { { "0", "0" }, { "2", "1" }, { "3", "1" } },
+          "Dicharge rates must increase with depth.  (Rating curve:  Row 3, Col 2)",
+          3,
+          2 },
         { "depth fault found before an earlier discharge fault",
           { { "0", "0" }, { "1", "0" }, { "3", "2" }, { "2", "4" } },
-          "Data are out of order.  (Rating curve:  Row 4, Col 1)", 4, 1 },
+          "Data are out of order.  (Rating curve:  Row 4, Col 1)",
+          4,
+          1 },
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
@@ -67,8 +92,8 @@ TEST(ValidateRatingCurve, FillsTheTable)
     RatingCurveTable table;
     RatingCurveFault fault;
     // 1E-50 is zero in single precision; " 6 " and "1,5" read as 6 and 1.
-    ASSERT_TRUE(ValidateRatingCurve(curve({ { "1E-50", "0" }, { "0.5", "0.25" }, { " 6 ", "1,5" } }),
-                                    table, fault))
+    ASSERT_TRUE(ValidateRatingCurve(
+            curve({ { "1E-50", "0" }, { "0.5", "0.25" }, { " 6 ", "1,5" } }), table, fault))
             << fault.message;
     ASSERT_EQ(table.PointCount, 3);
     EXPECT_EQ(table.Points[0].Depth, 1e-50);
@@ -81,16 +106,19 @@ TEST(LookupRatingCurve, InterpolatesInInchesAndNeverExtrapolates)
 {
     RatingCurveTable table;
     RatingCurveFault fault;
-    ASSERT_TRUE(ValidateRatingCurve(curve({ { "0", "0" }, { "6", "2" }, { "12", "8" } }), table, fault));
-    struct Case { double depthFt; bool inside; double discharge; };
+    ASSERT_TRUE(ValidateRatingCurve(curve({ { "0", "0" }, { "6", "2" }, { "12", "8" } }), table,
+                                    fault));
+    struct Case
+    {
+        double depthFt;
+        bool inside;
+        double discharge;
+    };
     const Case cases[] = {
         { 0.25, true, 1.0 }, // 3 in: halfway up the first segment
-        { 0.0, true, 0.0 },
-        { 0.5, true, 2.0 }, // an interior point
-        { 0.75, true, 5.0 },
-        { 1.0, true, 8.0 }, // exactly the last point
-        { 1.0001, false, -1.0 },
-        { -0.1, false, -1.0 },
+        { 0.0, true, 0.0 },      { 0.5, true, 2.0 }, // an interior point
+        { 0.75, true, 5.0 },     { 1.0, true, 8.0 }, // exactly the last point
+        { 1.0001, false, -1.0 }, { -0.1, false, -1.0 },
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.depthFt);

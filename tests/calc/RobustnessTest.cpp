@@ -112,8 +112,7 @@ TEST(Robustness, NormalDepthSatisfiesManningsEquation)
         const SectionGeometry g = sectionGeometry(data.NormalDepth, data.BottomWidth,
                                                   data.LeftSideSlope, data.RightSideSlope);
         const double Q = manningDischarge(data.RoughnessCoefficient, g.Ax, g.Rh, data.ChannelSlope);
-        EXPECT_NEAR(Q / data.PeakFlowRate, 1.0, 1.1e-9)
-                << "seed " << kSeed << ", design " << i;
+        EXPECT_NEAR(Q / data.PeakFlowRate, 1.0, 1.1e-9) << "seed " << kSeed << ", design " << i;
     }
 }
 

@@ -43,7 +43,12 @@ TEST(CalculateEfficiency, MatchesTheIndependentEvaluation)
 
 TEST(CalculateEfficiency, LimitsByPeakOrSoilStorageWithoutCapping)
 {
-    struct Case { const char *name; const char *L, *Kvu, *hb, *D, *Tc; bool above100; };
+    struct Case
+    {
+        const char *name;
+        const char *L, *Kvu, *hb, *D, *Tc;
+        bool above100;
+    };
     const Case cases[] = {
         { "soil takes the whole peak: Vm = Vr", "400", "2000", "3", "60", "10", false },
         { "soil storage limits: e = Vs / Vr", "400", "2000", "0.01", "60", "10", false },
@@ -168,7 +173,8 @@ TEST(CalculateInletChannel, FailsWithItsOwnMessageBeyondTheCurve)
     const std::string tail = " ft) exceeds the rating curve data.";
     ASSERT_EQ(message.substr(0, head.size()), head);
     ASSERT_EQ(message.substr(message.size() - tail.size()), tail);
-    const std::string depth = message.substr(head.size(), message.size() - head.size() - tail.size());
+    const std::string depth
+            = message.substr(head.size(), message.size() - head.size() - tail.size());
     EXPECT_EQ(depth.size(), 17u); // "0." and fifteen significant digits
     EXPECT_NEAR(std::stod(depth), kDepth, kDepth * kRelative);
     EXPECT_EQ(context.CalculationErrorMessage, "");
@@ -182,9 +188,9 @@ TEST(CalculateImperviousChannel, ReportsHydraulicsOnly)
     ASSERT_TRUE(CalculateImperviousChannel(data, context));
     EXPECT_NEAR(data.NormalDepth, 0.360409589943, 1e-9);
     EXPECT_EQ(data.RunoffDepth, 0.0);
-    for (double v : { data.DesignInfiltrationRate, data.EffectiveBottomArea,
-                      data.InfiltrationAtNormalDepth, data.MaxInfiltrationVolume,
-                      data.SoilStorageVolume, data.ResultEfficiency })
+    for (double v :
+         { data.DesignInfiltrationRate, data.EffectiveBottomArea, data.InfiltrationAtNormalDepth,
+           data.MaxInfiltrationVolume, data.SoilStorageVolume, data.ResultEfficiency })
         EXPECT_EQ(v, 0.0);
 }
 
@@ -197,7 +203,8 @@ TEST(SolutionMethods, StopWhenTheSearchFails)
         context.settings.NormalDepthMaxIterations = 3;
         EXPECT_FALSE(runSolutionMethod(data, context));
         EXPECT_EQ(context.CalculationErrorMessage,
-                  "Unable to find Normal Depth of Flow at tolerance of 1E-07 and Maximum Iterations of 3");
+                  "Unable to find Normal Depth of Flow at tolerance of 1E-07 and Maximum "
+                  "Iterations of 3");
         EXPECT_EQ(data.ResultLength, 0.0);
         EXPECT_EQ(data.ResultEfficiency, 0.0);
     }

@@ -16,19 +16,26 @@ struct FaultCase
 };
 
 const FaultCase kFaultCases[] = {
-    { "no solution method", 0, 0, 0, "", "Solution method has not been chosen.  Choose analysis type.", 0 },
-    { "no channel-flow method, method 4", 4, 0, 0, "", "Channel flow rate method has not been chosen.", 0 },
+    { "no solution method", 0, 0, 0, "",
+      "Solution method has not been chosen.  Choose analysis type.", 0 },
+    { "no channel-flow method, method 4", 4, 0, 0, "",
+      "Channel flow rate method has not been chosen.", 0 },
     { "blank length, method 2", 2, 1, 4, "   ", "Missing data.", 4 },
     { "negative length, method 2", 2, 1, 4, "-1", "Channel length must be greater than zero.", 4 },
     { "text in bottom width", 1, 1, 5, "abc", "Data is not numeric.", 5 },
-    { "negative bottom width", 1, 1, 5, "-0.5", "Bottom width must be greater than or equal to zero.", 5 },
+    { "negative bottom width", 1, 1, 5, "-0.5",
+      "Bottom width must be greater than or equal to zero.", 5 },
     { "zero left slope", 1, 1, 6, "0", "Left slope must be greater than zero.", 6 },
-    { "zero efficiency, method 1", 1, 1, 9, "0", "Treatment efficiency must be greater than zero.", 9 },
+    { "zero efficiency, method 1", 1, 1, 9, "0", "Treatment efficiency must be greater than zero.",
+      9 },
     { "zero drainage area", 3, 1, 10, "0", "Drainage area must be greater than zero.", 10 },
     { "zero channel flow", 4, 2, 15, "0", "Channel flow rate must be greater than zero.", 15 },
-    { "zero permissible velocity", 4, 1, 18, "0", "Permissible velocity must be greater than zero.", 18 },
-    { "negative roughness", 4, 1, 19, "-0.01", "Roughness Coefficient must be greater than zero.", 19 },
-    { "zero infiltration rate", 1, 1, 20, "0", "Vertical infiltration rate must be greater than zero.", 20 },
+    { "zero permissible velocity", 4, 1, 18, "0", "Permissible velocity must be greater than zero.",
+      18 },
+    { "negative roughness", 4, 1, 19, "-0.01", "Roughness Coefficient must be greater than zero.",
+      19 },
+    { "zero infiltration rate", 1, 1, 20, "0",
+      "Vertical infiltration rate must be greater than zero.", 20 },
 };
 } // namespace
 
@@ -36,8 +43,8 @@ TEST(ValidateInputData, ReportsTheFirstFaultWithItsMessageAndBox)
 {
     for (const FaultCase &c : kFaultCases) {
         SCOPED_TRACE(c.name);
-        SwaleProject p = validProject(c.solutionMethod == 0 ? 1 : c.solutionMethod,
-                                      c.channelFlowMethod);
+        SwaleProject p
+                = validProject(c.solutionMethod == 0 ? 1 : c.solutionMethod, c.channelFlowMethod);
         p.solutionMethod = c.solutionMethod;
         if (c.box)
             p.inputText[static_cast<size_t>(c.box)] = c.text;
@@ -52,7 +59,13 @@ TEST(ValidateInputData, ReportsTheFirstFaultWithItsMessageAndBox)
 
 TEST(ValidateInputData, SkipsTheBoxesTheChosenMethodsDoNotNeed)
 {
-    struct Case { const char *name; int method; int flow; std::vector<int> blankBoxes; };
+    struct Case
+    {
+        const char *name;
+        int method;
+        int flow;
+        std::vector<int> blankBoxes;
+    };
     const Case cases[] = {
         { "length and flow rate with method 1", 1, 1, { 4, 15, 16 } },
         { "efficiency with method 2", 2, 1, { 9 } },

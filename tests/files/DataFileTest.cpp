@@ -132,10 +132,17 @@ TEST(DataFileEncoding, ReadsUtf8ElseWindows1252)
 // The file is written in Windows-1252 when every character fits, else wholly in UTF-8.
 TEST(DataFileEncoding, WritesWindows1252UnlessACharacterDoesNotFit)
 {
-    struct Case { const char *name; Lines lines; std::string bytes; };
+    struct Case
+    {
+        const char *name;
+        Lines lines;
+        std::string bytes;
+    };
     const Case cases[] = {
         { "no lines", {}, "" },
-        { "western", { "caf\xC3\xA9", "\xE2\x82\xAC 5", "ft\xC2\xB3" }, "caf\xE9\r\n\x80 5\r\nft\xB3\r\n" },
+        { "western",
+          { "caf\xC3\xA9", "\xE2\x82\xAC 5", "ft\xC2\xB3" },
+          "caf\xE9\r\n\x80 5\r\nft\xB3\r\n" },
         { "a Greek delta", { "caf\xC3\xA9", "\xCE\x94h = 2" }, "caf\xC3\xA9\r\n\xCE\x94h = 2\r\n" },
     };
     TempFolder folder;
@@ -228,10 +235,10 @@ struct IntegerCase
 };
 
 const IntegerCase kIntegers[] = {
-    { "  12  ", true, 12 },  { "\t5\t", true, 5 },     { "+7", true, 7 },
-    { "-1", true, -1 },      { "32767", true, 32767 }, { "-32768", true, -32768 },
-    { "32768", false, 0 },   { "-32769", false, 0 },   { "", false, 0 },
-    { "1.5", false, 0 },     { "1e3", false, 0 },      { "0x10", false, 0 },
+    { "  12  ", true, 12 }, { "\t5\t", true, 5 },     { "+7", true, 7 },
+    { "-1", true, -1 },     { "32767", true, 32767 }, { "-32768", true, -32768 },
+    { "32768", false, 0 },  { "-32769", false, 0 },   { "", false, 0 },
+    { "1.5", false, 0 },    { "1e3", false, 0 },      { "0x10", false, 0 },
 };
 
 TEST(DataFileReadInteger, AcceptsOnlyShortWholeNumbers)

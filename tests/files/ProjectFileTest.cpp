@@ -253,14 +253,10 @@ struct HeaderCase
 
 // The version is read at positions 7 and 8 of the first line, wherever "Swale_" stands.
 const HeaderCase kHeaders[] = {
-    { "Swale_03", true },
-    { "Swale_03 saved by hand", true },
-    { "Swale_3", true },
-    { "My Swale_03", false }, // positions 7 and 8 read "le"
-    { "Swale_04", false },
-    { "Swale_00", false },
-    { "swale_03", false },
-    { "", false },
+    { "Swale_03", true },  { "Swale_03 saved by hand", true },
+    { "Swale_3", true },   { "My Swale_03", false }, // positions 7 and 8 read "le"
+    { "Swale_04", false }, { "Swale_00", false },
+    { "swale_03", false }, { "", false },
 };
 
 TEST_F(ProjectFileTest, TheHeaderDecidesWhetherTheFileLoads)

@@ -48,7 +48,13 @@ TEST(KeyValueFiles, ReadingRules)
 // Which values each reader takes from a whole file, and that a missing file sets none.
 TEST(KeyValueFiles, EachReaderTakesItsKeys)
 {
-    struct Case { const char *name; bool defaults; const char *content; std::string taken; };
+    struct Case
+    {
+        const char *name;
+        bool defaults;
+        const char *content;
+        std::string taken;
+    };
     const Case cases[] = {
         { "missing file", false, nullptr, "" },
         { "state alone, lower case", false, "state=2\r\n", "state 2 " },
@@ -65,9 +71,11 @@ TEST(KeyValueFiles, EachReaderTakesItsKeys)
         EXPECT_EQ(row.defaults ? ReadDefWindowSize(path, p) : ReadWindowState(path, p),
                   row.content != nullptr);
         std::string taken;
-        const std::pair<const char *, std::optional<int> *> fields[]
-                = { { "state", &p.state }, { "top", &p.top }, { "left", &p.left },
-                    { "height", &p.height }, { "width", &p.width } };
+        const std::pair<const char *, std::optional<int> *> fields[] = { { "state", &p.state },
+                                                                         { "top", &p.top },
+                                                                         { "left", &p.left },
+                                                                         { "height", &p.height },
+                                                                         { "width", &p.width } };
         for (const auto &[key, value] : fields) {
             if (*value)
                 taken += std::string(key) + " " + std::to_string(**value) + " ";

@@ -96,4 +96,3 @@ std::vector<PdfWord> PdfProbe::wordsOf(int page) const
     }
     return result;
 }
-

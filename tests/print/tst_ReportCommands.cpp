@@ -9,8 +9,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-
-
 class tst_ReportCommands : public QObject
 {
     Q_OBJECT

@@ -148,14 +148,14 @@ RecoveryAnswer RecordingPrompts::askRecovery(const QList<RecoveryOffer> &offers)
 
 void RecordingPrompts::answerPreview(std::function<void(ReportPreviewDialog &)> whileShown)
 {
-    Answer answer{ Kind::Preview };
+    Answer answer { Kind::Preview };
     answer.whileShown = std::move(whileShown);
     m_script.append(answer);
 }
 
 void RecordingPrompts::showPreview(ReportPreviewDialog &dialog)
 {
-    Record record{ Kind::Preview };
+    Record record { Kind::Preview };
     record.pages = dialog.pageCount();
     m_records.append(record);
     Answer answer;

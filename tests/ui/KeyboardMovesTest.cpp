@@ -7,8 +7,8 @@
 // How GoogleTest names a target in a failure message: "box(17)", "optCalculate(2)".
 void PrintTo(const MoveTarget &target, std::ostream *out)
 {
-    static const char *const kNames[] = { "nothing", "box", "optCalculate", "optChannelFlow",
-                                          "grid", "output" };
+    static const char *const kNames[]
+            = { "nothing", "box", "optCalculate", "optChannelFlow", "grid", "output" };
     *out << kNames[static_cast<int>(target.kind)] << "(" << target.index << ")";
 }
 
@@ -16,12 +16,24 @@ namespace {
 
 using Kind = MoveTarget::Kind;
 
-MoveTarget box(int index) { return { Kind::InputBox, index }; }
-MoveTarget method(int index) { return { Kind::SolutionMethodOption, index }; }
-MoveTarget flow(int index) { return { Kind::ChannelFlowOption, index }; }
-MoveTarget output(int index) { return { Kind::OutputBox, index }; }
-const MoveTarget kNothing{};
-const MoveTarget kGrid{ Kind::RatingCurveGrid, 0 };
+MoveTarget box(int index)
+{
+    return { Kind::InputBox, index };
+}
+MoveTarget method(int index)
+{
+    return { Kind::SolutionMethodOption, index };
+}
+MoveTarget flow(int index)
+{
+    return { Kind::ChannelFlowOption, index };
+}
+MoveTarget output(int index)
+{
+    return { Kind::OutputBox, index };
+}
+const MoveTarget kNothing {};
+const MoveTarget kGrid { Kind::RatingCurveGrid, 0 };
 
 // One row of the movement table for given choices: where Down, Enter and Up lead.
 struct InputMoveCase
@@ -93,10 +105,10 @@ TEST(KeyboardMoves, EnterOnAnOptionGoesToTheFirstBoxOfTheChosenMode)
     {
         int chosen;
         MoveTarget expected;
-    } methodRows[] = { { 1, box(5) }, { 2, box(4) }, { 3, box(5) }, { 4, box(5) }, { 0, kNothing } };
+    } methodRows[]
+            = { { 1, box(5) }, { 2, box(4) }, { 3, box(5) }, { 4, box(5) }, { 0, kNothing } };
     for (const auto &row : methodRows) {
-        EXPECT_EQ(KeyboardMoves::fromSolutionMethodOption(MoveKey::Enter, row.chosen),
-                  row.expected)
+        EXPECT_EQ(KeyboardMoves::fromSolutionMethodOption(MoveKey::Enter, row.chosen), row.expected)
                 << "method " << row.chosen;
     }
     EXPECT_EQ(KeyboardMoves::fromChannelFlowOption(MoveKey::Enter, 1), box(10));

@@ -130,7 +130,7 @@ void tst_PageLayout::gapsComeFromTheSizeOfX()
     QFont big = page.panel->font();
     big.setPointSizeF(big.pointSizeF() * 2);
     const PageUnits small(page.panel->fontMetrics());
-    const PageUnits large{ QFontMetrics(big) };
+    const PageUnits large { QFontMetrics(big) };
     QVERIFY(large.xHeight > small.xHeight);
 
     PageLayout::LayoutInputPage(page.controls, 1, 1, small);

@@ -24,7 +24,8 @@ int barHeight()
 struct PageUnderTest
 {
     PageUnderTest(ScrollingPage::Behaviour page, QSize pageSize, QSize contentSize)
-        : content(new QWidget), viewport(content, page)
+        : content(new QWidget)
+        , viewport(content, page)
     {
         content->resize(contentSize);
         viewport.resize(pageSize);
