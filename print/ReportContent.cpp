@@ -1,5 +1,6 @@
 #include "ReportContent.h"
 
+#include "Calculate.h"
 #include "InputTable.h"
 #include "NumberText.h"
 #include "OutputTable.h"
@@ -160,6 +161,19 @@ ReportSection resultsSection(const SwaleProject &project)
     return section;
 }
 
+std::optional<ChannelViews> channelViewsOf(const SwaleProject &project)
+{
+    if (!project.resultsShown)
+        return std::nullopt;
+    const CalculationOutcome outcome = Calculate(project);
+    ChannelViews views;
+    QString reason;
+    if (outcome.status != CalculationOutcome::Status::Ok
+        || !buildChannelViews(outcome.record, std::nullopt, views, reason))
+        return std::nullopt;
+    return views;
+}
+
 } // namespace
 
 ReportContent buildReportContent(const SwaleProject &project, const QString &projectFileName)
@@ -179,5 +193,6 @@ ReportContent buildReportContent(const SwaleProject &project, const QString &pro
     content.projectFileName = fileText;
     content.sections.push_back(inputSection(project));
     content.sections.push_back(resultsSection(project));
+    content.channelViews = channelViewsOf(project);
     return content;
 }

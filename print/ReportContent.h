@@ -1,9 +1,11 @@
 #pragma once
 
+#include "ChannelViews.h"
 #include "SwaleProject.h"
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 // What the printed report says, before anything is measured or placed: the texts of the document
@@ -53,6 +55,9 @@ struct ReportContent
     QString jobName; // repeated in every page header
     QString projectFileName; // repeated in every page footer
     std::vector<ReportSection> sections;
+    // The channel drawings of the results, on a page of their own after the sections; none when
+    // the results are not shown or the inputs no longer calculate.
+    std::optional<ChannelViews> channelViews;
 };
 
 // Column titles of the rating-curve table; the window's grid shows the same two titles.
@@ -65,6 +70,7 @@ extern const char *const kReportProgramName;
 // Builds the report of `project` as the window shows it: the inputs that the chosen solution and
 // channel-flow methods ask for, under the headings of the Input Data page; the rating curve for
 // method 3; the result boxes that the Results page shows, under its group headings and with the
-// captions of the chosen options. `projectFileName` is the path of the open project file, "" for
+// captions of the chosen options; with results, the channel drawings of the calculation (the
+// inputs are calculated again: the results shown are those of the inputs). `projectFileName` is the path of the open project file, "" for
 // an untitled one.
 ReportContent buildReportContent(const SwaleProject &project, const QString &projectFileName);

@@ -73,6 +73,16 @@ void buildFileMenu(QMainWindow &window, MainMenus &menus)
     menus.mnuFile_Print->setShortcut(QKeySequence::Print);
 }
 
+void buildViewMenu(QMainWindow &window, MainMenus &menus)
+{
+    QMenu *view = window.menuBar()->addMenu(QStringLiteral("&View"));
+    view->setObjectName(QStringLiteral("mnuView"));
+    menus.mnuView = view;
+    menus.mnuView_ChannelPane
+            = addAction(view, "mnuView_ChannelPane", QStringLiteral("&Channel Pane"));
+    menus.mnuView_ChannelPane->setCheckable(true);
+}
+
 void buildHelpMenus(QMainWindow &window, MainMenus &menus)
 {
     QMenu *help = window.menuBar()->addMenu(QStringLiteral("&Help"));
@@ -134,6 +144,7 @@ MainMenus buildMainMenus(QMainWindow &window)
 {
     MainMenus menus;
     buildFileMenu(window, menus);
+    buildViewMenu(window, menus);
     buildHelpMenus(window, menus);
     buildToolbar(window, menus);
     return menus;

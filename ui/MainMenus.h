@@ -25,6 +25,10 @@ struct MainMenus
     QAction *cmdFile_Example = nullptr;
     QAction *mnuFile_Exit = nullptr;
 
+    // The panes beside the tabs.
+    QMenu *mnuView = nullptr;
+    QAction *mnuView_ChannelPane = nullptr; // checkable: the channel pane is shown
+
     QMenu *mnuHelp = nullptr;
     QMenu *mnuHelp_Image = nullptr;
     std::array<QAction *, 5> mnuHelp_Image_Size {}; // [0] unused: sizes 1 to 4

@@ -1,6 +1,8 @@
 #include "frmMain.h"
 
 #include "Calculate.h"
+#include "ChannelPane.h"
+#include "ChannelPaneDock.h"
 #include "HelpImagePanel.h"
 #include "HelpViewer.h"
 #include "InputPage.h"
@@ -61,6 +63,8 @@ frmMain::frmMain(Prompts &prompts, const GlobalData &folders, PrintPrompts *prin
     m_recentFiles
             = std::make_unique<RecentFilesMenu>(m_menus.mnuFile_Recent, m_menus.mnuFile_Separator3);
     buildPages();
+    m_channelPane = std::make_unique<ChannelPaneDock>(*this, m_menus, m_prompts,
+                                                      [this] { return GetDataFolder(); });
     connectCommands();
     setCaption(QStringLiteral("<untitled>"));
     m_helpImage->load();
@@ -112,6 +116,11 @@ void frmMain::buildPages()
     SSTab1->addTab(ctrlPictureViewer1, QStringLiteral("Help"));
     setCentralWidget(SSTab1);
     connect(SSTab1, &QTabWidget::currentChanged, this, &frmMain::onTabChanged);
+}
+
+ChannelPane *frmMain::channelPane() const
+{
+    return m_channelPane->pane();
 }
 
 QWidget *frmMain::tabPanel(int tab) const
@@ -245,6 +254,7 @@ void frmMain::ClearResults()
 {
     setResultsShown(false);
     m_resultsPage->clearBoxes();
+    channelPane()->markInputsChanged();
 }
 
 // An edit of the job name, engineer or date (boxes 1 to 3) keeps the results: they do not
@@ -295,14 +305,22 @@ void frmMain::calculateCommand()
     const CalculationOutcome outcome = Calculate(project, m_calcSettings);
     switch (outcome.status) {
     case CalculationOutcome::Status::Invalid:
+        channelPane()->showFailure(QString::fromStdString(outcome.fault.message));
         showValidationFault(outcome.fault);
         break;
-    case CalculationOutcome::Status::Failed:
+    case CalculationOutcome::Status::Failed: {
+        QStringList reasons;
+        for (const std::string &message : outcome.failureMessages)
+            if (!message.empty())
+                reasons << QString::fromStdString(message);
+        channelPane()->showFailure(reasons.join(QLatin1Char('\n')));
         for (const std::string &message : outcome.failureMessages)
             m_prompts.ShowErrorMessage(QString::fromStdString(message), MessageStyle::Critical,
                                        QLatin1String(kErrorTitle));
         break;
+    }
     case CalculationOutcome::Status::Ok:
+        channelPane()->showCalculation(outcome.record);
         showResults(outcome);
         break;
     }

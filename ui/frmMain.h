@@ -10,6 +10,8 @@
 #include <array>
 #include <memory>
 
+class ChannelPane;
+class ChannelPaneDock;
 class HelpImagePanel;
 class InputPage;
 class KeyboardNavigator;
@@ -58,6 +60,7 @@ public:
     HelpImagePanel *helpImage() const { return m_helpImage; }
     QPushButton *calculateButton() const { return cmdCalculate; }
     const MainMenus &menus() const { return m_menus; }
+    ChannelPane *channelPane() const;
     QString versionText() const { return m_versionText; }
     // Whether tab `tab`'s panel may be shown: set once the panels were sized to the tab.
     bool isPanelShown(int tab) const { return m_panelShown[static_cast<size_t>(tab)]; }
@@ -132,6 +135,7 @@ private:
 
     MainMenus m_menus;
     std::unique_ptr<RecentFilesMenu> m_recentFiles;
+    std::unique_ptr<ChannelPaneDock> m_channelPane;
     QTabWidget *SSTab1 = nullptr;
     std::array<ScrollingPage *, 2> picStaionaryWindow {}; // page 0 Input Data, page 1 Results
     InputPage *m_inputPage = nullptr;

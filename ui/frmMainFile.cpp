@@ -2,6 +2,8 @@
 // with the unsaved-data question and the file-error messages.
 #include "frmMain.h"
 
+#include "ChannelPane.h"
+
 #include "InputPage.h"
 #include "OptionGroup.h"
 #include "ProjectFile.h"
@@ -75,6 +77,7 @@ void frmMain::ClearProject()
     empty.channelFlowMethod = 1;
     m_inputPage->showProject(empty);
     m_resultsPage->clearBoxes();
+    channelPane()->clear();
     relayoutPages();
     m_dataChanged = false;
     setResultsShown(false);
@@ -160,8 +163,10 @@ bool frmMain::OpenDataFile(const QString &path, int mode)
     ClearProject();
     m_inputPage->showProject(project);
     relayoutPages();
-    if (project.resultsShown)
+    if (project.resultsShown) {
         m_resultsPage->WriteResults(project.outputText);
+        channelPane()->showProject(project);
+    }
     setResultsShown(project.resultsShown);
     if (mode == OpenNormal) {
         m_recentFiles->add(path);
