@@ -42,8 +42,9 @@ void ChannelViewWidget::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     const ChannelViews *views = m_pane.views();
+    // Text sized in points, as on paper.
     if (views)
-        paintChannelView(painter, QRectF(rect()), *views, m_view);
+        paintChannelView(painter, QRectF(rect()), *views, m_view, logicalDpiY() / 72.0);
     if (m_pane.state() == ChannelPane::State::Current)
         return;
     if (views)

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QEvent>
 #include <QMainWindow>
 
 const char *const kChannelDockName = "channelDock";
@@ -19,11 +20,16 @@ ChannelPaneDock::ChannelPaneDock(QMainWindow &window, const MainMenus &menus, Pr
     m_dock->setWidget(m_pane);
     window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
 
-    QAction *toggle = menus.mnuView_ChannelPane;
-    QObject::connect(toggle, &QAction::toggled, m_dock, &QDockWidget::setVisible);
-    QObject::connect(m_dock, &QDockWidget::visibilityChanged, toggle, [this, toggle] {
-        // visibilityChanged also fires when a tabbed dock is covered: ask the dock itself.
-        toggle->setChecked(!m_dock->isHidden());
-    });
-    toggle->setChecked(!m_dock->isHidden());
+    m_toggle = menus.mnuView_ChannelPane;
+    connect(m_toggle, &QAction::toggled, m_dock, &QDockWidget::setVisible);
+    m_toggle->setChecked(!m_dock->isHidden());
+    m_dock->installEventFilter(this);
+}
+
+bool ChannelPaneDock::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_dock
+        && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent))
+        m_toggle->setChecked(!m_dock->isHidden());
+    return QObject::eventFilter(watched, event);
 }

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 
 #include <functional>
 
 class ChannelPane;
 class Prompts;
+class QAction;
 class QDockWidget;
 class QMainWindow;
 struct MainMenus;
@@ -14,7 +16,7 @@ struct MainMenus;
 // shown and hidden by View > Channel Pane. The window keeps its tabs as the central widget, so
 // the pages lay out and scroll as they do without the pane. WindowPlacementFiles keeps the
 // pane's visibility and width between runs.
-class ChannelPaneDock
+class ChannelPaneDock : public QObject
 {
 public:
     ChannelPaneDock(QMainWindow &window, const MainMenus &menus, Prompts &prompts,
@@ -23,7 +25,13 @@ public:
     ChannelPane *pane() const { return m_pane; }
     QDockWidget *dock() const { return m_dock; }
 
+protected:
+    // Keeps View > Channel Pane checked exactly while the dock is shown, however it was shown
+    // or hidden (the menu, its close button, the window's stored placement).
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    QAction *m_toggle = nullptr;
     QDockWidget *m_dock = nullptr;
     ChannelPane *m_pane = nullptr;
 };

@@ -5,8 +5,11 @@
 
 #include <QAreaSeries>
 #include <QChart>
+#include <QFontMetricsF>
 #include <QGraphicsLayout>
+#include <QGraphicsRectItem>
 #include <QGraphicsScene>
+#include <QGraphicsSimpleTextItem>
 #include <QLegendMarker>
 #include <QLineSeries>
 #include <QPainter>
@@ -50,6 +53,12 @@ void attach(QChart &chart, QAbstractSeries *series, QValueAxis *x, QValueAxis *y
     series->attachAxis(y);
 }
 
+void hideFromLegend(QChart &chart, QAbstractSeries *series)
+{
+    for (QLegendMarker *marker : chart.legend()->markers(series))
+        marker->setVisible(false);
+}
+
 std::unique_ptr<QChart> newChart(const QString &title)
 {
     auto chart = std::make_unique<QChart>();
@@ -74,22 +83,10 @@ QString volumeText(double volume)
     return quantityText(volume) + QStringLiteral(" ft³");
 }
 
-// The legend entry of the shaded area: the volume taken in against the treatment volume.
-QString clippedName(const HydrographDrawing &h)
-{
-    const QString share = h.runoffVolume > 0
-            ? QStringLiteral(" (%1 %)").arg(quantityText(h.clippedVolume / h.runoffVolume * 100))
-            : QString();
-    const QString what = h.solutionMethod == 3 ? QStringLiteral("Inlet volume ")
-                                               : QStringLiteral("Vm = ");
-    return what + volumeText(h.clippedVolume) + QStringLiteral(" of Vr = ")
-            + volumeText(h.runoffVolume) + share;
-}
-
 QString rateName(const HydrographDrawing &h)
 {
     const QString flow = quantityText(*h.rate) + QStringLiteral(" cfs");
-    return h.solutionMethod == 3 ? QStringLiteral("Inlet discharge at d = ") + flow
+    return h.solutionMethod == 3 ? QStringLiteral("Inlet at d: ") + flow
                                  : QStringLiteral("Qip = ") + flow;
 }
 
@@ -106,7 +103,8 @@ std::unique_ptr<QChart> makeHydrographChart(const HydrographDrawing &h)
         auto *upper = lineSeries(QString(), h.clipped, QPen(Qt::NoPen));
         auto *area = new QAreaSeries(upper);
         upper->setParent(area);
-        area->setName(clippedName(h));
+        area->setName(h.solutionMethod == 3 ? QStringLiteral("Inlet volume")
+                                            : QStringLiteral("Infiltrated (Vm)"));
         QColor fill = ViewColour::clipped;
         fill.setAlpha(150);
         area->setBrush(fill);
@@ -144,7 +142,7 @@ std::unique_ptr<QChart> makeRatingChart(const RatingDrawing &r)
     v->setLabelsColor(ViewColour::velocity.darker(120));
     v->setTitleBrush(ViewColour::velocity.darker(120));
 
-    attach(*chart, lineSeries(QStringLiteral("Q, Manning"), r.discharge, pen(ViewColour::inflow, 2)),
+    attach(*chart, lineSeries(QStringLiteral("Q"), r.discharge, pen(ViewColour::inflow, 2)),
            x, q);
     attach(*chart, lineSeries(QStringLiteral("V"), r.velocity, pen(ViewColour::velocity, 2)), x, v);
     const QPolygonF vp({ QPointF(0, r.permissibleVelocity), QPointF(r.maxDepth, r.permissibleVelocity) });
@@ -153,34 +151,101 @@ std::unique_ptr<QChart> makeRatingChart(const RatingDrawing &r)
                       pen(ViewColour::rate, 1.5, Qt::DashLine)),
            x, v);
     if (!r.inlet.isEmpty()) {
-        auto *inlet = lineSeries(QStringLiteral("Inlet rating curve"), r.inlet,
+        auto *inlet = lineSeries(QStringLiteral("Inlet"), r.inlet,
                                  pen(ViewColour::inlet, 2));
         inlet->setPointsVisible(true);
         attach(*chart, inlet, x, q);
     }
     auto *design = new QScatterSeries;
-    design->setName(QStringLiteral("d = %1 ft, Qp = %2 cfs")
-                            .arg(quantityText(r.designPoint.x()), quantityText(r.designPoint.y())));
+    design->setName(QStringLiteral("Design point"));
     design->append(r.designPoint);
     design->setMarkerSize(9);
     design->setColor(ViewColour::inflow);
     design->setBorderColor(Qt::black);
     attach(*chart, design, x, q);
+    hideFromLegend(*chart, design); // named beside the point
     if (r.inletAtDepth) {
         auto *atDepth = new QScatterSeries;
-        atDepth->setName(QStringLiteral("Inlet at d: %1 cfs").arg(quantityText(r.inletAtDepth->y())));
+        atDepth->setName(QStringLiteral("Inlet at d"));
         atDepth->append(*r.inletAtDepth);
         atDepth->setMarkerShape(QScatterSeries::MarkerShapeRectangle);
         atDepth->setMarkerSize(9);
         atDepth->setColor(ViewColour::inlet);
         atDepth->setBorderColor(Qt::black);
         attach(*chart, atDepth, x, q);
+        hideFromLegend(*chart, atDepth);
     }
     return chart;
 }
 
+namespace {
+// A text on a white ground in the chart, its top left at `place`, above the series (which
+// Qt Charts stacks over the chart's own children).
+void addNote(QChart &chart, const QString &text, QPointF place, const QColor &colour,
+             Qt::Alignment align)
+{
+    auto *label = new QGraphicsSimpleTextItem(text, &chart);
+    label->setFont(viewFont(10, true));
+    label->setBrush(colour);
+    const QRectF box = label->boundingRect();
+    if (align & Qt::AlignHCenter)
+        place.rx() -= box.width() / 2;
+    else if (align & Qt::AlignRight)
+        place.rx() -= box.width();
+    if (align & Qt::AlignVCenter)
+        place.ry() -= box.height() / 2;
+    else if (align & Qt::AlignBottom)
+        place.ry() -= box.height();
+    // Keep the note inside the plot.
+    const QRectF plot = chart.plotArea();
+    place.setX(std::clamp(place.x(), plot.left() + 2, std::max(plot.left() + 2, plot.right() - box.width() - 2)));
+    place.setY(std::clamp(place.y(), plot.top() + 2, std::max(plot.top() + 2, plot.bottom() - box.height() - 2)));
+    auto *ground = new QGraphicsRectItem(box.adjusted(-3, -1, 3, 1), &chart);
+    ground->setBrush(QColor(255, 255, 255, 210));
+    ground->setPen(Qt::NoPen);
+    ground->setPos(place);
+    label->setPos(place);
+    ground->setZValue(1000);
+    label->setZValue(1001);
+}
+} // namespace
+
+void labelClippedVolume(QChart &chart, const HydrographDrawing &h)
+{
+    if (!h.rate || h.clipped.isEmpty())
+        return;
+    const QString what = h.solutionMethod == 3 ? QStringLiteral("Inlet volume ")
+                                               : QStringLiteral("Vm = ");
+    const QString text = what + volumeText(h.clippedVolume) + QStringLiteral("\nof Vr = ")
+            + volumeText(h.runoffVolume);
+    const double rate = std::min(*h.rate, h.peak);
+    const QPointF top = chart.mapToPosition(QPointF(h.duration / 2, rate));
+    const QPointF base = chart.mapToPosition(QPointF(h.duration / 2, 0));
+    const QColor colour = ViewColour::clipped.darker(220);
+    // A thin band: the label goes above its line.
+    if (base.y() - top.y() < 2.2 * QFontMetricsF(viewFont(10, true)).height() + 6)
+        addNote(chart, text, top - QPointF(0, 4), colour, Qt::AlignHCenter | Qt::AlignBottom);
+    else
+        addNote(chart, text, (top + base) / 2, colour, Qt::AlignCenter);
+}
+
+void labelRatingPoints(QChart &chart, const RatingDrawing &r)
+{
+    const QPointF design = chart.mapToPosition(r.designPoint);
+    addNote(chart,
+            QStringLiteral("d = %1 ft\nQp = %2 cfs")
+                    .arg(quantityText(r.designPoint.x()), quantityText(r.designPoint.y())),
+            design + QPointF(-8, -6), ViewColour::inflow.darker(130),
+            Qt::AlignRight | Qt::AlignBottom);
+    if (r.inletAtDepth) {
+        const QPointF inlet = chart.mapToPosition(*r.inletAtDepth);
+        addNote(chart, QStringLiteral("Inlet %1 cfs").arg(quantityText(r.inletAtDepth->y())),
+                inlet + QPointF(8, 6), ViewColour::inlet.darker(130), Qt::AlignLeft | Qt::AlignTop);
+    }
+}
+
 void renderChart(QPainter &painter, const QRectF &target, const QSizeF &logicalSize,
-                 std::unique_ptr<QChart> chart)
+                 std::unique_ptr<QChart> chart, const std::function<void(QChart &)> &annotate)
 {
     QGraphicsScene scene;
     const QRectF source(QPointF(0, 0), logicalSize);
@@ -190,6 +255,8 @@ void renderChart(QPainter &painter, const QRectF &target, const QSizeF &logicalS
     item->setGeometry(source);
     if (item->layout())
         item->layout()->activate();
+    if (annotate)
+        annotate(*item);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     scene.render(&painter, target, source, Qt::IgnoreAspectRatio);

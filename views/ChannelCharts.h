@@ -7,6 +7,7 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include <functional>
 #include <memory>
 
 class QPainter;
@@ -19,7 +20,16 @@ std::unique_ptr<QChart> makeHydrographChart(const HydrographDrawing &hydrograph)
 // the design point and, under method 3, the inlet's rating curve with its point at d.
 std::unique_ptr<QChart> makeRatingChart(const RatingDrawing &rating);
 
-// Lays `chart` out at `logicalSize` (the units its fonts are sized in) and paints it into
-// `target`, as vector graphics on a vector device.
+// Writes the volume of the shaded part into the hydrograph chart, over the shaded area (or just
+// above it when the band is too thin). Needs the chart laid out.
+void labelClippedVolume(QChart &chart, const HydrographDrawing &hydrograph);
+
+// Writes d and Qp beside the design point, and the inlet's discharge beside its point at d.
+void labelRatingPoints(QChart &chart, const RatingDrawing &rating);
+
+// Lays `chart` out at `logicalSize` (the units its fonts are sized in), lets `annotate` place
+// texts that need the laid-out plot, and paints it into `target`, as vector graphics on a
+// vector device.
 void renderChart(QPainter &painter, const QRectF &target, const QSizeF &logicalSize,
-                 std::unique_ptr<QChart> chart);
+                 std::unique_ptr<QChart> chart,
+                 const std::function<void(QChart &)> &annotate = {});

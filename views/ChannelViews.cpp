@@ -52,10 +52,12 @@ void paintChannelView(QPainter &painter, const QRectF &target, const ChannelView
         break;
     }
     case ChannelView::Hydrograph:
-        renderChart(painter, target, logical, makeHydrographChart(views.hydrograph));
+        renderChart(painter, target, logical, makeHydrographChart(views.hydrograph),
+                    [&views](QChart &chart) { labelClippedVolume(chart, views.hydrograph); });
         break;
     case ChannelView::RatingCurves:
-        renderChart(painter, target, logical, makeRatingChart(views.rating));
+        renderChart(painter, target, logical, makeRatingChart(views.rating),
+                    [&views](QChart &chart) { labelRatingPoints(chart, views.rating); });
         break;
     }
 }

@@ -28,8 +28,8 @@ SectionDrawing buildSectionDrawing(const SwaleInputData &record,
     if (s.waterTableDepth > 0)
         s.storageZone = QRectF(s.leftBankX(s.d), -s.waterTableDepth, s.Wt, s.waterTableDepth);
     // The ground is shown a little below the bottom (or the water table) so that it reads as
-    // soil, not as a line.
-    const double below = s.waterTableDepth > 0 ? s.waterTableDepth * 1.15 : H * 0.2;
+    // soil, not as a line; the painter adds room for the labels there.
+    const double below = s.waterTableDepth > 0 ? s.waterTableDepth * 1.05 : H * 0.1;
     s.extent = QRectF(0, -below, s.rightBankX(H), H + below);
     return s;
 }
@@ -50,8 +50,8 @@ QPolygonF SectionScale::map(const QPolygonF &feet) const
 }
 
 namespace {
-// Fill at least this share of the plot's height before the vertical is left true to scale.
-constexpr double kMinimumHeightShare = 0.35;
+// Fill at least half the plot's height before the vertical is left true to scale.
+constexpr double kMinimumHeightShare = 0.5;
 
 double exaggerationFor(double needed)
 {
@@ -76,10 +76,11 @@ SectionScale fitSection(const QRectF &extent, const QRectF &area)
     const double trueScale = std::min(area.width() / width, area.height() / height);
     scale.horizontal = trueScale;
     scale.vertical = trueScale;
-    if (height * trueScale < kMinimumHeightShare * area.height()) {
+    // In a tall, narrow area half its height would still be a lot: no more than 0.6 of the width.
+    const double wanted = std::min(kMinimumHeightShare * area.height(), 0.6 * area.width());
+    if (height * trueScale < wanted) {
         // Width-bound: keep the width, stretch the height by a round ratio.
-        const double ratio = exaggerationFor(kMinimumHeightShare * area.height()
-                                             / (height * trueScale));
+        const double ratio = exaggerationFor(wanted / (height * trueScale));
         scale.vertical = trueScale * ratio;
         // A ratio that would overflow the height shrinks both scales together.
         if (height * scale.vertical > area.height()) {

@@ -41,8 +41,8 @@ SectionDrawing buildSectionDrawing(const SwaleInputData &record,
                                    std::optional<double> criticalDepth);
 
 // How the section is fitted into a plot area: feet to plot units on each axis. The horizontal
-// scale fills the plot; when the section is so flat that it would fill less than a third of the
-// plot's height, the vertical is exaggerated by the smallest of 2, 5, 10, 20, 50 ... that does.
+// scale fills the plot; when the section is so flat that it would fill less than half the
+// plot's height (or 0.6 of its width, in a tall plot), the vertical is exaggerated by the smallest of 2, 5, 10, 20, 50 ... that does.
 struct SectionScale
 {
     QRectF plot; // the part of the target the section occupies

@@ -66,7 +66,7 @@ void drawDimension(QPainter &p, const QPointF &a, const QPointF &b)
     p.setBrush(Qt::NoBrush);
 }
 
-void paintAxes(QPainter &p, const SectionScale &s)
+void paintAxes(QPainter &p, const QRectF &rect, const SectionScale &s)
 {
     const QRectF &plot = s.plot;
     p.setPen(QPen(ViewColour::axis, 1));
@@ -75,7 +75,7 @@ void paintAxes(QPainter &p, const SectionScale &s)
     const double baseY = plot.bottom() + 4;
     p.drawLine(QPointF(plot.left(), baseY), QPointF(plot.right(), baseY));
     const AxisScale x = niceScale(s.extent.left(), s.extent.right(),
-                                  std::max(2, static_cast<int>(plot.width() / 70)));
+                                  std::max(3, static_cast<int>(plot.width() / 55)));
     for (int i = 0; i <= x.intervals(); ++i) {
         const double value = x.minimum + i * x.step;
         if (value < s.extent.left() - 1e-9 || value > s.extent.right() + 1e-9)
@@ -91,7 +91,7 @@ void paintAxes(QPainter &p, const SectionScale &s)
     const double axisX = plot.left() - 4;
     p.drawLine(QPointF(axisX, plot.top()), QPointF(axisX, plot.bottom()));
     const AxisScale y = niceScale(s.extent.top(), s.extent.bottom(),
-                                  std::max(2, static_cast<int>(plot.height() / 40)));
+                                  std::max(3, static_cast<int>(plot.height() / 45)));
     for (int i = 0; i <= y.intervals(); ++i) {
         const double value = y.minimum + i * y.step;
         if (value < s.extent.top() - 1e-9 || value > s.extent.bottom() + 1e-9)
@@ -102,17 +102,17 @@ void paintAxes(QPainter &p, const SectionScale &s)
                    Qt::AlignRight | Qt::AlignVCenter, y.label(value));
     }
     p.save();
-    p.translate(axisX - 40, plot.center().y());
+    p.translate(rect.left() + 2, plot.center().y());
     p.rotate(-90);
-    p.drawText(QRectF(-plot.height() / 2, -metrics.height() - 2, plot.height(), metrics.height()),
-               Qt::AlignHCenter, QStringLiteral("Height above bottom (ft)"));
+    p.drawText(QRectF(-plot.height() / 2, 0, plot.height(), metrics.height()), Qt::AlignHCenter,
+               QStringLiteral("Height (ft)"));
     p.restore();
 }
 
 void paintSoil(QPainter &p, const SectionScale &s, const SectionDrawing &d)
 {
     QPolygonF soil = d.ground;
-    soil << QPointF(d.extent.right(), d.extent.top()) << QPointF(d.extent.left(), d.extent.top());
+    soil << QPointF(s.extent.right(), s.extent.top()) << QPointF(s.extent.left(), s.extent.top());
     p.setPen(Qt::NoPen);
     p.setBrush(ViewColour::ground);
     p.drawPolygon(s.map(soil));
@@ -219,7 +219,21 @@ void paintTitle(QPainter &p, const QRectF &rect, double exaggeration)
 SectionScale sectionScaleIn(const QRectF &rect, const SectionDrawing &section)
 {
     const QRectF area = rect.adjusted(kLeftRoom, kTopRoom, -kRightRoom, -kBottomRoom);
-    return fitSection(section.extent, area);
+    // Below the lowest line drawn (the bottom, or the water table) the labels need room: the
+    // B dimension, or the water table's name. Soil is added there until the scale settles.
+    const bool waterTable = section.waterTableDepth > 0;
+    const double lowest = waterTable ? -section.waterTableDepth : 0;
+    const double room = waterTable ? 20 : 34;
+    QRectF extent = section.extent;
+    SectionScale scale = fitSection(extent, area);
+    for (int pass = 0; pass < 3; ++pass) {
+        const double needed = lowest - room / scale.vertical;
+        if (needed >= extent.top())
+            break;
+        extent.setTop(needed);
+        scale = fitSection(extent, area);
+    }
+    return scale;
 }
 
 void paintSection(QPainter &painter, const QRectF &rect, const SectionDrawing &section)
@@ -232,6 +246,6 @@ void paintSection(QPainter &painter, const QRectF &rect, const SectionDrawing &s
     paintSoil(painter, scale, section);
     paintWater(painter, scale, section);
     paintDimensions(painter, scale, section);
-    paintAxes(painter, scale);
+    paintAxes(painter, rect, scale);
     painter.restore();
 }
