@@ -71,6 +71,6 @@ extern const char *const kReportProgramName;
 // channel-flow methods ask for, under the headings of the Input Data page; the rating curve for
 // method 3; the result boxes that the Results page shows, under its group headings and with the
 // captions of the chosen options; with results, the channel drawings of the calculation (the
-// inputs are calculated again: the results shown are those of the inputs). `projectFileName` is the path of the open project file, "" for
-// an untitled one.
+// inputs are calculated again: the results shown are those of the inputs). `projectFileName` is the
+// path of the open project file, "" for an untitled one.
 ReportContent buildReportContent(const SwaleProject &project, const QString &projectFileName);

@@ -14,8 +14,8 @@
 #include <QVBoxLayout>
 
 const char *const kChannelPaneEmptyText = "Calculate to draw the channel.";
-const char *const kChannelPaneStaleText =
-        "The inputs changed: calculate again to update the drawing.";
+const char *const kChannelPaneStaleText
+        = "The inputs changed: calculate again to update the drawing.";
 
 namespace {
 // Size of an exported drawing: a figure for a report, in pixels (PNG) or points (SVG).
@@ -51,7 +51,7 @@ void ChannelViewWidget::paintEvent(QPaintEvent *)
         painter.fillRect(rect(), QColor(235, 235, 235, 190)); // greyed: no longer the inputs'
     QRectF note = QRectF(rect()).adjusted(16, 16, -16, -16);
     painter.setPen(m_pane.state() == ChannelPane::State::Failed ? QColor(0xa0, 0x20, 0x20)
-                                                               : QColor(0x30, 0x30, 0x30));
+                                                                : QColor(0x30, 0x30, 0x30));
     QFont font = painter.font();
     font.setBold(views != nullptr);
     painter.setFont(font);
@@ -62,8 +62,8 @@ void ChannelViewWidget::contextMenuEvent(QContextMenuEvent *event)
 {
     QMenu menu(this);
     const bool drawn = m_pane.views() != nullptr;
-    QAction *copy = menu.addAction(QStringLiteral("&Copy"), this,
-                                   &ChannelViewWidget::copyToClipboard);
+    QAction *copy
+            = menu.addAction(QStringLiteral("&Copy"), this, &ChannelViewWidget::copyToClipboard);
     QAction *png = menu.addAction(QStringLiteral("Save as &PNG..."), this,
                                   [this] { saveAs(QStringLiteral("png")); });
     QAction *svg = menu.addAction(QStringLiteral("Save as &SVG..."), this,
@@ -88,8 +88,8 @@ bool ChannelViewWidget::saveAs(const QString &format)
     FileDialogRequest request;
     request.initialFolder = QDir(m_pane.dataFolder()).absolutePath() + QLatin1Char('/');
     request.fileName = fileBaseName(m_view) + QLatin1Char('.') + format;
-    request.filters = { svg ? QStringLiteral("SVG Images (*.svg)")
-                            : QStringLiteral("PNG Images (*.png)") };
+    request.filters
+            = { svg ? QStringLiteral("SVG Images (*.svg)") : QStringLiteral("PNG Images (*.png)") };
     request.defaultSuffix = format;
     request.flags = FileDialogRequest::HideReadOnly | FileDialogRequest::PathMustExist
             | FileDialogRequest::OverwritePrompt;
@@ -134,8 +134,7 @@ void ChannelPane::setState(State state, const QString &message)
         view->update();
 }
 
-void ChannelPane::showCalculation(const SwaleInputData &record,
-                                  std::optional<double> criticalDepth)
+void ChannelPane::showCalculation(const SwaleInputData &record, std::optional<double> criticalDepth)
 {
     ChannelViews views;
     QString reason;

@@ -3,7 +3,6 @@
 #include "frmMain.h"
 
 #include "ChannelPane.h"
-
 #include "InputPage.h"
 #include "OptionGroup.h"
 #include "ProjectFile.h"

@@ -96,7 +96,8 @@ std::unique_ptr<QChart> makeHydrographChart(const HydrographDrawing &h)
 {
     auto chart = newChart(QStringLiteral("Inflow hydrograph"));
     const double top = std::max(h.peak, h.rate.value_or(0.0)) * 1.1;
-    QValueAxis *x = addAxis(*chart, QStringLiteral("Time (min)"), 0, h.duration, Qt::AlignBottom, 6);
+    QValueAxis *x
+            = addAxis(*chart, QStringLiteral("Time (min)"), 0, h.duration, Qt::AlignBottom, 6);
     QValueAxis *y = addAxis(*chart, QStringLiteral("Flow (cfs)"), 0, top, Qt::AlignLeft, 5);
 
     if (h.rate) {
@@ -111,8 +112,9 @@ std::unique_ptr<QChart> makeHydrographChart(const HydrographDrawing &h)
         area->setPen(pen(ViewColour::clipped.darker(130), 1));
         attach(*chart, area, x, y);
     }
-    const QString inflowName = h.rate ? QStringLiteral("Inflow Q(t)")
-                                      : QStringLiteral("Inflow Q(t), Vr = ") + volumeText(h.runoffVolume);
+    const QString inflowName = h.rate
+            ? QStringLiteral("Inflow Q(t)")
+            : QStringLiteral("Inflow Q(t), Vr = ") + volumeText(h.runoffVolume);
     attach(*chart, lineSeries(inflowName, h.inflow, pen(ViewColour::inflow, 2)), x, y);
     if (h.rate) {
         const QPolygonF line({ QPointF(0, *h.rate), QPointF(h.duration, *h.rate) });
@@ -134,7 +136,8 @@ std::unique_ptr<QChart> makeRatingChart(const RatingDrawing &r)
     for (const QPointF &point : r.velocity)
         topV = std::max(topV, point.y());
 
-    QValueAxis *x = addAxis(*chart, QStringLiteral("Depth (ft)"), 0, r.maxDepth, Qt::AlignBottom, 6);
+    QValueAxis *x
+            = addAxis(*chart, QStringLiteral("Depth (ft)"), 0, r.maxDepth, Qt::AlignBottom, 6);
     QValueAxis *q = addAxis(*chart, QStringLiteral("Discharge Q (cfs)"), 0, topQ * 1.05,
                             Qt::AlignLeft, 5);
     QValueAxis *v = addAxis(*chart, QStringLiteral("Velocity V (ft/s)"), 0, topV * 1.1,
@@ -142,17 +145,16 @@ std::unique_ptr<QChart> makeRatingChart(const RatingDrawing &r)
     v->setLabelsColor(ViewColour::velocity.darker(120));
     v->setTitleBrush(ViewColour::velocity.darker(120));
 
-    attach(*chart, lineSeries(QStringLiteral("Q"), r.discharge, pen(ViewColour::inflow, 2)),
-           x, q);
+    attach(*chart, lineSeries(QStringLiteral("Q"), r.discharge, pen(ViewColour::inflow, 2)), x, q);
     attach(*chart, lineSeries(QStringLiteral("V"), r.velocity, pen(ViewColour::velocity, 2)), x, v);
-    const QPolygonF vp({ QPointF(0, r.permissibleVelocity), QPointF(r.maxDepth, r.permissibleVelocity) });
+    const QPolygonF vp(
+            { QPointF(0, r.permissibleVelocity), QPointF(r.maxDepth, r.permissibleVelocity) });
     attach(*chart,
            lineSeries(QStringLiteral("Vp = %1 ft/s").arg(quantityText(r.permissibleVelocity)), vp,
                       pen(ViewColour::rate, 1.5, Qt::DashLine)),
            x, v);
     if (!r.inlet.isEmpty()) {
-        auto *inlet = lineSeries(QStringLiteral("Inlet"), r.inlet,
-                                 pen(ViewColour::inlet, 2));
+        auto *inlet = lineSeries(QStringLiteral("Inlet"), r.inlet, pen(ViewColour::inlet, 2));
         inlet->setPointsVisible(true);
         attach(*chart, inlet, x, q);
     }
@@ -198,8 +200,10 @@ void addNote(QChart &chart, const QString &text, QPointF place, const QColor &co
         place.ry() -= box.height();
     // Keep the note inside the plot.
     const QRectF plot = chart.plotArea();
-    place.setX(std::clamp(place.x(), plot.left() + 2, std::max(plot.left() + 2, plot.right() - box.width() - 2)));
-    place.setY(std::clamp(place.y(), plot.top() + 2, std::max(plot.top() + 2, plot.bottom() - box.height() - 2)));
+    place.setX(std::clamp(place.x(), plot.left() + 2,
+                          std::max(plot.left() + 2, plot.right() - box.width() - 2)));
+    place.setY(std::clamp(place.y(), plot.top() + 2,
+                          std::max(plot.top() + 2, plot.bottom() - box.height() - 2)));
     auto *ground = new QGraphicsRectItem(box.adjusted(-3, -1, 3, 1), &chart);
     ground->setBrush(QColor(255, 255, 255, 210));
     ground->setPen(Qt::NoPen);
@@ -214,8 +218,8 @@ void labelClippedVolume(QChart &chart, const HydrographDrawing &h)
 {
     if (!h.rate || h.clipped.isEmpty())
         return;
-    const QString what = h.solutionMethod == 3 ? QStringLiteral("Inlet volume ")
-                                               : QStringLiteral("Vm = ");
+    const QString what
+            = h.solutionMethod == 3 ? QStringLiteral("Inlet volume ") : QStringLiteral("Vm = ");
     const QString text = what + volumeText(h.clippedVolume) + QStringLiteral("\nof Vr = ")
             + volumeText(h.runoffVolume);
     const double rate = std::min(*h.rate, h.peak);

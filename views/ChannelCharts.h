@@ -31,5 +31,4 @@ void labelRatingPoints(QChart &chart, const RatingDrawing &rating);
 // texts that need the laid-out plot, and paints it into `target`, as vector graphics on a
 // vector device.
 void renderChart(QPainter &painter, const QRectF &target, const QSizeF &logicalSize,
-                 std::unique_ptr<QChart> chart,
-                 const std::function<void(QChart &)> &annotate = {});
+                 std::unique_ptr<QChart> chart, const std::function<void(QChart &)> &annotate = {});

@@ -16,9 +16,8 @@ class QPainter;
 // The three drawings of a calculated channel, shared by the window's channel pane and the
 // printed report: each is computed once as plain values, then painted on any device.
 enum class ChannelView { CrossSection, Hydrograph, RatingCurves };
-constexpr std::array<ChannelView, 3> kChannelViews = { ChannelView::CrossSection,
-                                                       ChannelView::Hydrograph,
-                                                       ChannelView::RatingCurves };
+constexpr std::array<ChannelView, 3> kChannelViews
+        = { ChannelView::CrossSection, ChannelView::Hydrograph, ChannelView::RatingCurves };
 
 struct ChannelViews
 {

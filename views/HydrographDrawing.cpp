@@ -16,8 +16,7 @@ QPolygonF inflowHydrograph(const SwaleInputData &record)
     if (Tc <= 0)
         return QPolygonF({ QPointF(0, 0), QPointF(0, Qp), QPointF(D, Qp), QPointF(D, 0) });
     if (D >= Tc) {
-        return QPolygonF(
-                { QPointF(0, 0), QPointF(Tc, Qp), QPointF(D, Qp), QPointF(base, 0) });
+        return QPolygonF({ QPointF(0, 0), QPointF(Tc, Qp), QPointF(D, Qp), QPointF(base, 0) });
     }
     // The two ramps meet at half the base, below Qp: the width of the hydrograph at flow q is
     // still (D + Tc) - 2 q Tc / Qp, which the volume formula integrates.

@@ -13,10 +13,9 @@ QPointF dischargeAndVelocity(const SwaleInputData &record, double y)
 {
     if (y <= 0)
         return QPointF(0, 0);
-    const SectionGeometry g = sectionGeometry(y, record.BottomWidth, record.LeftSideSlope,
-                                              record.RightSideSlope);
-    const double Q = manningDischarge(record.RoughnessCoefficient, g.Ax, g.Rh,
-                                      record.ChannelSlope);
+    const SectionGeometry g
+            = sectionGeometry(y, record.BottomWidth, record.LeftSideSlope, record.RightSideSlope);
+    const double Q = manningDischarge(record.RoughnessCoefficient, g.Ax, g.Rh, record.ChannelSlope);
     return QPointF(Q, Q / g.Ax);
 }
 } // namespace

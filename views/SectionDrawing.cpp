@@ -23,8 +23,8 @@ SectionDrawing buildSectionDrawing(const SwaleInputData &record,
     const double toeRight = toeLeft + s.B;
     s.ground = QPolygonF({ QPointF(0, H), QPointF(toeLeft, 0), QPointF(toeRight, 0),
                            QPointF(s.rightBankX(H), H) });
-    s.water = QPolygonF({ QPointF(s.leftBankX(s.d), s.d), QPointF(toeLeft, 0),
-                          QPointF(toeRight, 0), QPointF(s.rightBankX(s.d), s.d) });
+    s.water = QPolygonF({ QPointF(s.leftBankX(s.d), s.d), QPointF(toeLeft, 0), QPointF(toeRight, 0),
+                          QPointF(s.rightBankX(s.d), s.d) });
     if (s.waterTableDepth > 0)
         s.storageZone = QRectF(s.leftBankX(s.d), -s.waterTableDepth, s.Wt, s.waterTableDepth);
     // The ground is shown a little below the bottom (or the water table) so that it reads as
@@ -90,8 +90,8 @@ SectionScale fitSection(const QRectF &extent, const QRectF &area)
         }
     }
     const QSizeF used(width * scale.horizontal, height * scale.vertical);
-    scale.plot = QRectF(area.left() + (area.width() - used.width()) / 2,
-                        area.top() + (area.height() - used.height()) / 2, used.width(),
-                        used.height());
+    scale.plot
+            = QRectF(area.left() + (area.width() - used.width()) / 2,
+                     area.top() + (area.height() - used.height()) / 2, used.width(), used.height());
     return scale;
 }

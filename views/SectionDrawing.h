@@ -23,7 +23,8 @@ struct SectionDrawing
 
     QPolygonF ground; // left bank top, left toe, right toe, right bank top
     QPolygonF water; // the flow area: left water edge, left toe, right toe, right water edge
-    QRectF storageZone; // soil storage under the water surface down to the water table (methods 1, 2)
+    QRectF storageZone; // soil storage under the water surface down to the water table (methods 1,
+                        // 2)
     QRectF extent; // everything the drawing shows, y upwards: top() is the lowest elevation
 
     double leftToeX() const { return Z1 * bankHeight; }
@@ -42,7 +43,8 @@ SectionDrawing buildSectionDrawing(const SwaleInputData &record,
 
 // How the section is fitted into a plot area: feet to plot units on each axis. The horizontal
 // scale fills the plot; when the section is so flat that it would fill less than half the
-// plot's height (or 0.6 of its width, in a tall plot), the vertical is exaggerated by the smallest of 2, 5, 10, 20, 50 ... that does.
+// plot's height (or 0.6 of its width, in a tall plot), the vertical is exaggerated by the smallest
+// of 2, 5, 10, 20, 50 ... that does.
 struct SectionScale
 {
     QRectF plot; // the part of the target the section occupies

@@ -52,8 +52,8 @@ void drawArrowHead(QPainter &p, const QPointF &tip, const QPointF &from)
     const QPointF u = (from - tip) / length;
     const QPointF n(-u.y(), u.x());
     const double size = std::min(kArrow, length / 2);
-    p.drawPolygon(QPolygonF({ tip, tip + u * size * 1.6 + n * size * 0.6,
-                              tip + u * size * 1.6 - n * size * 0.6 }));
+    p.drawPolygon(QPolygonF(
+            { tip, tip + u * size * 1.6 + n * size * 0.6, tip + u * size * 1.6 - n * size * 0.6 }));
 }
 
 // A dimension line between a and b with arrows at both ends.
@@ -117,8 +117,9 @@ void paintSoil(QPainter &p, const SectionScale &s, const SectionDrawing &d)
     p.setBrush(ViewColour::ground);
     p.drawPolygon(s.map(soil));
     if (!d.storageZone.isEmpty()) {
-        const QRectF zone = QRectF(s.map(d.storageZone.topLeft()),
-                                   s.map(d.storageZone.bottomRight())).normalized();
+        const QRectF zone
+                = QRectF(s.map(d.storageZone.topLeft()), s.map(d.storageZone.bottomRight()))
+                          .normalized();
         p.setBrush(QBrush(ViewColour::storage, Qt::BDiagPattern));
         p.drawRect(zone);
         p.setPen(QPen(ViewColour::storage, 1, Qt::DotLine));

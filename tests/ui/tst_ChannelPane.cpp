@@ -88,7 +88,8 @@ QDockWidget *tst_ChannelPane::dock() const
 
 QByteArray tst_ChannelPane::windowState() const
 {
-    QFile file(QString::fromStdString(m_folders.settingsFolder) + QStringLiteral("WindowState.ini"));
+    QFile file(QString::fromStdString(m_folders.settingsFolder)
+               + QStringLiteral("WindowState.ini"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -134,7 +135,8 @@ void tst_ChannelPane::viewMenuSitsBetweenFileAndHelpAndTogglesTheDock()
     for (QAction *menu : m_window->menuBar()->actions())
         titles << menu->text();
     QCOMPARE(titles.mid(0, 3),
-             QStringList({ QStringLiteral("&File"), QStringLiteral("&View"), QStringLiteral("&Help") }));
+             QStringList({ QStringLiteral("&File"), QStringLiteral("&View"),
+                           QStringLiteral("&Help") }));
     QAction *toggle = m_window->menus().mnuView_ChannelPane;
     QCOMPARE(toggle->text(), QStringLiteral("&Channel Pane"));
     QCOMPARE(dock()->windowTitle(), QStringLiteral("Channel"));

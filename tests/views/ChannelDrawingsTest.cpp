@@ -168,9 +168,8 @@ TEST(RatingDrawing, InletCurveMeetsTheNormalDepthAtTheInletDischarge)
     SwaleInputData record = solvedChannel(8.4);
     record.SolutionMethod = 3;
     // The median ditch's inlet: depth in inches, discharge in cfs.
-    const double points[][2] = { { 0, 0 },    { 1, 0.29 },  { 2, 0.82 },  { 3, 1.5 },
-                                 { 4, 2.31 }, { 6, 4.24 },  { 8, 6.53 },  { 10, 9.13 },
-                                 { 12, 12 },  { 24, 30 } };
+    const double points[][2] = { { 0, 0 },    { 1, 0.29 }, { 2, 0.82 },  { 3, 1.5 }, { 4, 2.31 },
+                                 { 6, 4.24 }, { 8, 6.53 }, { 10, 9.13 }, { 12, 12 }, { 24, 30 } };
     for (const auto &point : points)
         record.RatingCurve.Points.push_back({ point[0], point[1] });
     record.RatingCurve.PointCount = static_cast<int32_t>(record.RatingCurve.Points.size());

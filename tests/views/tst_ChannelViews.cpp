@@ -27,8 +27,7 @@ namespace {
 // The record of a valid project of the given methods, calculated.
 SwaleInputData recordOf(int solutionMethod, int channelFlowMethod = 1)
 {
-    const CalculationOutcome outcome
-            = Calculate(validProject(solutionMethod, channelFlowMethod));
+    const CalculationOutcome outcome = Calculate(validProject(solutionMethod, channelFlowMethod));
     return outcome.record;
 }
 
@@ -113,8 +112,8 @@ void tst_ChannelViews::hydrographChartShowsTheClippedVolume()
     auto *area = qobject_cast<QAreaSeries *>(areas.first());
     QVERIFY(area);
     QCOMPARE(area->upperSeries()->points(), h.clipped.toList());
-    QLineSeries *rate = seriesNamed(*chart, method == 3 ? QStringLiteral("Inlet at d")
-                                                        : QStringLiteral("Qip"));
+    QLineSeries *rate = seriesNamed(
+            *chart, method == 3 ? QStringLiteral("Inlet at d") : QStringLiteral("Qip"));
     QVERIFY(rate);
     QCOMPARE(rate->at(0).y(), *h.rate);
     QCOMPARE(rate->at(1).x(), h.duration);
@@ -159,9 +158,8 @@ void tst_ChannelViews::ratingChartShowsDesignPointVpAndInlet()
     QCOMPARE(vp->at(0).y(), record.PermissibleVelocity);
     // Vp is read on the velocity axis, on the right.
     const auto axes = vp->attachedAxes();
-    QVERIFY(std::any_of(axes.begin(), axes.end(), [](QAbstractAxis *axis) {
-        return axis->alignment() == Qt::AlignRight;
-    }));
+    QVERIFY(std::any_of(axes.begin(), axes.end(),
+                        [](QAbstractAxis *axis) { return axis->alignment() == Qt::AlignRight; }));
     QCOMPARE(seriesNamed(*chart, QStringLiteral("Inlet")) != nullptr, method == 3);
     // The axes reach 1.5 d.
     const auto depthAxes = chart->axes(Qt::Horizontal);
