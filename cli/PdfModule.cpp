@@ -9,24 +9,24 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QApplication>
 
 #include <memory>
 
 namespace {
 
-// The GUI application the PDF writer's fonts need, made once for the run.
+// The application the PDF writer's fonts and the report's charts (Qt Charts draws through
+// graphics widgets, which need a QApplication) need, made once for the run.
 void ensureGuiApplication()
 {
-    if (QGuiApplication::instance())
+    if (QCoreApplication::instance())
         return;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     static int argc = 1;
     static char name[] = "swale-calc";
     static char *argv[] = { name, nullptr };
-    static std::unique_ptr<QGuiApplication> application
-            = std::make_unique<QGuiApplication>(argc, argv);
+    static std::unique_ptr<QApplication> application = std::make_unique<QApplication>(argc, argv);
 }
 
 } // namespace

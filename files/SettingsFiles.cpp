@@ -12,6 +12,7 @@
 #include <climits>
 #include <cmath>
 #include <cstdlib>
+#include <vector>
 
 const char *const kWindowStateFile = "WindowState.ini";
 const char *const kRecentFilesFile = "RecentFiles.ini";
@@ -107,6 +108,8 @@ bool ReadWindowState(const std::string &path, WindowPlacement &placement)
     take(values, "TOP", placement.top);
     take(values, "HEIGHT", placement.height);
     take(values, "WIDTH", placement.width);
+    take(values, "CHANNELPANE", placement.channelPane);
+    take(values, "CHANNELPANEWIDTH", placement.channelPaneWidth);
     return ok;
 }
 
@@ -120,15 +123,19 @@ bool ReadDefWindowSize(const std::string &path, WindowPlacement &placement)
 }
 
 bool WriteWindowState(const std::string &path, WindowShowState state, int top, int left, int height,
-                      int width)
+                      int width, const PanePlacement &panes)
 {
-    const std::string stateLine = "State=" + std::to_string(static_cast<int>(state));
-    if (state != WindowShowState::Normal)
-        return WriteSettingsFile(path, { stateLine });
-    return WriteSettingsFile(path,
-                             { stateLine, "Top=" + std::to_string(top),
-                               "Left=" + std::to_string(left), "Height=" + std::to_string(height),
-                               "Width=" + std::to_string(width) });
+    std::vector<std::string> lines = { "State=" + std::to_string(static_cast<int>(state)) };
+    if (state == WindowShowState::Normal) {
+        lines.insert(lines.end(),
+                     { "Top=" + std::to_string(top), "Left=" + std::to_string(left),
+                       "Height=" + std::to_string(height), "Width=" + std::to_string(width) });
+    }
+    if (panes.channelPane)
+        lines.push_back("ChannelPane=" + std::to_string(*panes.channelPane));
+    if (panes.channelPaneWidth)
+        lines.push_back("ChannelPaneWidth=" + std::to_string(*panes.channelPaneWidth));
+    return WriteSettingsFile(path, lines);
 }
 
 HelpImageFiles ReadHelpImageFolders(const std::string &programFolder)

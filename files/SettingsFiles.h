@@ -56,16 +56,29 @@ struct WindowPlacement
     std::optional<int> left;
     std::optional<int> height;
     std::optional<int> width;
+    // The channel pane beside the tabs (WindowState.ini only): shown (1) or hidden (0), and its
+    // width in twips. Missing in files of earlier versions: the window then decides.
+    std::optional<int> channelPane;
+    std::optional<int> channelPaneWidth;
 };
 
-// Reads the keys STATE, LEFT, TOP, HEIGHT and WIDTH. True when the file was read to its end.
+// The panes' keys of WindowState.ini, written after the window's own.
+struct PanePlacement
+{
+    std::optional<int> channelPane; // 1 shown, 0 hidden
+    std::optional<int> channelPaneWidth; // twips
+};
+
+// Reads the keys STATE, LEFT, TOP, HEIGHT and WIDTH, and CHANNELPANE and CHANNELPANEWIDTH. True
+// when the file was read to its end.
 bool ReadWindowState(const std::string &path, WindowPlacement &placement);
 // Reads the keys HEIGHT and WIDTH. True when the file was read to its end.
 bool ReadDefWindowSize(const std::string &path, WindowPlacement &placement);
 // Writes "State=" and, for the normal state only, "Top=", "Left=", "Height=" and "Width=" in
-// twips, in that order. Returns false when the file could not be written.
+// twips, in that order; then "ChannelPane=" and "ChannelPaneWidth=" for those of `panes` that are
+// set, in any state. Returns false when the file could not be written.
 bool WriteWindowState(const std::string &path, WindowShowState state, int top, int left, int height,
-                      int width);
+                      int width, const PanePlacement &panes = {});
 
 // Help-image sizes 1 to 4: Small, Medium, Large, Largest.
 constexpr int kHelpImageSizeCount = 4;

@@ -1,6 +1,7 @@
 #include "ReportContent.h"
 
 #include "ReportChecks.h"
+#include "Calculate.h"
 #include "InputTable.h"
 #include "NumberText.h"
 #include "OutputTable.h"
@@ -145,6 +146,19 @@ ReportSection resultsSection(const SwaleProject &project)
     return section;
 }
 
+std::optional<ChannelViews> channelViewsOf(const SwaleProject &project)
+{
+    if (!project.resultsShown)
+        return std::nullopt;
+    const CalculationOutcome outcome = Calculate(project);
+    ChannelViews views;
+    QString reason;
+    if (outcome.status != CalculationOutcome::Status::Ok
+        || !buildChannelViews(outcome.record, std::nullopt, views, reason))
+        return std::nullopt;
+    return views;
+}
+
 } // namespace
 
 ReportSource ReportSource::example(const QString &examplePath)
@@ -185,5 +199,6 @@ ReportContent buildReportContent(const SwaleProject &project, const ReportSource
     content.sections.push_back(resultsSection(project));
     if (project.resultsShown)
         content.sections.push_back(checksSection(project));
+    content.channelViews = channelViewsOf(project);
     return content;
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "ChannelViews.h"
 #include "SwaleProject.h"
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 // What the printed report says, before anything is measured or placed: the texts of the document
@@ -54,6 +56,9 @@ struct ReportContent
     QString jobName; // repeated in every page header
     QString projectFileName; // repeated in every page footer
     std::vector<ReportSection> sections;
+    // The channel drawings of the results, on a page of their own after the sections; none when
+    // the results are not shown or the inputs no longer calculate.
+    std::optional<ChannelViews> channelViews;
 };
 
 // The document a report is of: its project file, or the example it was opened from (examples
@@ -77,6 +82,7 @@ struct ReportSource
 // Builds the report of `project` as the window shows it: the inputs that the chosen solution and
 // channel-flow methods ask for, under the headings of the Input Data page; the rating curve for
 // method 3; the result boxes that the Results page shows, under its group headings and with the
-// captions of the chosen options; with results, the hydraulic checks (ReportChecks.h). `source`
-// names the document in the title block and the footers.
+// captions of the chosen options; with results, the hydraulic checks (ReportChecks.h) and the
+// channel drawings of the calculation (the inputs are calculated again: the results shown are
+// those of the inputs). `source` names the document in the title block and the footers.
 ReportContent buildReportContent(const SwaleProject &project, const ReportSource &source);

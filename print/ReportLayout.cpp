@@ -94,7 +94,29 @@ std::vector<ReportPage> paginate(const BlockList &list, double top, double botto
     return pages;
 }
 
+// The page of the channel drawings: its title, then the three drawings sharing the height left.
+ReportPage channelViewsPage(const QRectF &body, const TextMeasure &measure)
+{
+    ReportPage page;
+    const double titleHeight = measure.lineHeight(ReportFont::Section);
+    page.texts.push_back({ QRectF(body.left(), body.top(), body.width(), titleHeight),
+                           QString::fromUtf8(kChannelViewsTitle), ReportFont::Section,
+                           Qt::AlignLeft });
+    const double gap = measure.lineHeight(ReportFont::Body);
+    const double top = body.top() + titleHeight + gap;
+    const double count = static_cast<double>(kChannelViews.size());
+    const double height = (body.bottom() - top - gap * (count - 1)) / count;
+    double y = top;
+    for (const ChannelView view : kChannelViews) {
+        page.figures.push_back({ QRectF(body.left(), y, body.width(), height), view });
+        y += height + gap;
+    }
+    return page;
+}
+
 } // namespace
+
+const char *const kChannelViewsTitle = "Channel views";
 
 std::vector<ReportPage> layoutReport(const ReportContent &content, const PageFrame &frame,
                                      const TextMeasure &measure)
@@ -106,6 +128,11 @@ std::vector<ReportPage> layoutReport(const ReportContent &content, const PageFra
     const PageFurniture furniture(area, measure);
     const BlockList list = buildReportBlocks(content, area.left(), area.width(), measure);
     std::vector<ReportPage> pages = paginate(list, furniture.bodyTop(), furniture.bodyBottom());
+    if (content.channelViews) {
+        const QRectF body(area.left(), furniture.bodyTop(), area.width(),
+                          furniture.bodyBottom() - furniture.bodyTop());
+        pages.push_back(channelViewsPage(body, measure));
+    }
     const int count = static_cast<int>(pages.size());
     for (int i = 0; i < count; ++i)
         furniture.addTo(pages[static_cast<size_t>(i)], content, i + 1, count);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ChannelViews.h"
 #include "ReportContent.h"
 #include "TextFitting.h"
 
@@ -32,11 +33,19 @@ struct PlacedRule
     RuleStyle style = RuleStyle::Solid;
 };
 
+// A channel drawing placed on a page; the paint step draws it from the report content.
+struct PlacedFigure
+{
+    QRectF rect;
+    ChannelView view = ChannelView::CrossSection;
+};
+
 struct ReportPage
 {
     std::vector<PlacedText> texts;
     std::vector<PlacedRule> rules;
     std::vector<QRectF> shades; // light grey bands behind table headers and alternate rows
+    std::vector<PlacedFigure> figures;
 };
 
 // The sheet and its margins, in layout units. Margins leave the printed text within the sheet;
@@ -51,9 +60,12 @@ struct PageFrame
 // width or height are scaled down together until that third is left. Negative margins count as 0.
 QMarginsF usableMargins(const PageFrame &frame);
 
+extern const char *const kChannelViewsTitle; // "Channel views"
+
 // Lays out the whole report: the title block on the first page, the two sections with their
 // groups, the rating-curve table (breaking across pages with its column titles repeated), a page
 // header with the program and job names and a footer with the project file and "Page i of n".
-// A heading is never left alone at the foot of a page.
+// A heading is never left alone at the foot of a page. With channel drawings, a last page
+// "Channel views" holds the three of them, one above the other, sized to the page.
 std::vector<ReportPage> layoutReport(const ReportContent &content, const PageFrame &frame,
                                      const TextMeasure &measure);

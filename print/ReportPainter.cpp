@@ -1,5 +1,7 @@
 #include "ReportPainter.h"
 
+#include "ChannelViews.h"
+
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -73,7 +75,8 @@ double DeviceTextMeasure::lineHeight(ReportFont font) const
     return metrics(font).lineSpacing();
 }
 
-void paintReportPage(QPainter &painter, const ReportPage &page)
+void paintReportPage(QPainter &painter, const ReportPage &page, const ReportContent &content,
+                     double unitsPerPoint)
 {
     painter.setPen(Qt::NoPen);
     for (const QRectF &shade : page.shades)
@@ -99,6 +102,15 @@ void paintReportPage(QPainter &painter, const ReportPage &page)
         painter.drawText(text.rect,
                          static_cast<int>(text.alignment | Qt::AlignTop) | Qt::TextSingleLine,
                          text.text);
+    }
+    if (content.channelViews) {
+        for (const PlacedFigure &figure : page.figures) {
+            paintChannelView(painter, figure.rect, *content.channelViews, figure.view,
+                             unitsPerPoint);
+            painter.setPen(QPen(kLeaderColour, 0.5 * unitsPerPoint));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(figure.rect);
+        }
     }
 }
 
@@ -135,7 +147,7 @@ bool paintReport(QPagedPaintDevice &device, const ReportContent &content,
             painter.end();
             return false;
         }
-        paintReportPage(painter, pages[i]);
+        paintReportPage(painter, pages[i], content, xScale);
     }
     if (!painter.end()) {
         if (error)

@@ -34,8 +34,10 @@ private:
     std::array<QFontMetricsF, 8> m_metrics;
 };
 
-// Draws one laid-out page with `painter`, whose coordinates are the layout's.
-void paintReportPage(QPainter &painter, const ReportPage &page);
+// Draws one laid-out page with `painter`, whose coordinates are the layout's; its channel
+// drawings come from `content`, their text sized at `unitsPerPoint` layout units to the point.
+void paintReportPage(QPainter &painter, const ReportPage &page, const ReportContent &content,
+                     double unitsPerPoint);
 
 // Lays out `content` for the sheet of `device` with margins in points (left, top, right,
 // bottom) measured from the sheet's edges, and paints every page. The device is switched to

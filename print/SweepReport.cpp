@@ -72,7 +72,7 @@ ReportSection sweepReportSection(const SweepResult &sweep, int resultColumn,
                                  const SolveOutcome *solved)
 {
     ReportSection section;
-    section.heading = QStringLiteral("III.  DESIGN EXPLORER");
+    section.heading = QStringLiteral("IV.  DESIGN EXPLORER");
     section.keepTogether = true;
     ReportGroup swept;
     swept.heading = QStringLiteral("Sweep");

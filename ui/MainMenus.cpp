@@ -82,6 +82,9 @@ void buildViewMenu(QMainWindow &window, MainMenus &menus)
     QMenu *view = window.menuBar()->addMenu(QStringLiteral("&View"));
     view->setObjectName(QStringLiteral("mnuView"));
     menus.mnuView = view;
+    menus.mnuView_ChannelPane
+            = addAction(view, "mnuView_ChannelPane", QStringLiteral("&Channel Pane"));
+    menus.mnuView_ChannelPane->setCheckable(true);
     menus.mnuView_DesignExplorer
             = addAction(view, "mnuView_DesignExplorer", QStringLiteral("&Design Explorer..."));
 }

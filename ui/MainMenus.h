@@ -27,9 +27,9 @@ struct MainMenus
     QAction *cmdFile_Example = nullptr;
     QAction *mnuFile_Exit = nullptr;
 
-    // Between File and Help: the panes and windows beside the three tabs (the channel pane adds
-    // its entry first).
+    // Between File and Help: the panes and windows beside the three tabs.
     QMenu *mnuView = nullptr;
+    QAction *mnuView_ChannelPane = nullptr; // checkable: the channel pane is shown
     QAction *mnuView_DesignExplorer = nullptr;
 
     QMenu *mnuHelp = nullptr;

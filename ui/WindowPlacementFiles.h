@@ -10,10 +10,12 @@ namespace WindowPlacementFiles {
 
 // Applies the stored size and place to `window`; keys found in neither file leave the window
 // at its designed size. A stored place that lies wholly off the screens is not used. Returns
-// true when the stored state asks for a maximised window (the caller shows it so).
+// true when the stored state asks for a maximised window (the caller shows it so). The channel
+// pane, when the window has one, gets its stored visibility and width.
 bool restore(QMainWindow &window, const GlobalData &folders);
 
-// Writes the window's state and, for a normal window, its top, left, height and width.
+// Writes the window's state and, for a normal window, its top, left, height and width; then
+// whether the channel pane is shown, and its width.
 void save(const QMainWindow &window, const GlobalData &folders);
 
 } // namespace WindowPlacementFiles

@@ -3,6 +3,8 @@
 #include "DesignExplorer.h"
 
 #include "Calculate.h"
+#include "ChannelPane.h"
+#include "ChannelPaneDock.h"
 #include "ChecksPanel.h"
 #include "HelpImagePanel.h"
 #include "HelpViewer.h"
@@ -269,7 +271,8 @@ void frmMain::ClearResults()
 {
     setResultsShown(false);
     m_resultsPage->clearBoxes();
-    m_channelPane.checks->markStale();
+    channelPane()->markInputsChanged();
+    m_checks->markStale();
 }
 
 // An edit of the job name, engineer or date (boxes 1 to 3) keeps the results: they do not
@@ -331,7 +334,7 @@ void frmMain::calculateCommand()
         showResults(outcome);
         break;
     }
-    showChecksOf(outcome);
+    showChannelOf(outcome);
 }
 
 void frmMain::showInputPage()

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "CalcContext.h"
-#include "ChannelPane.h"
 #include "GlobalData.h"
 #include "MainMenus.h"
 #include "SwaleProject.h"
@@ -12,6 +11,9 @@
 #include <array>
 #include <memory>
 
+class ChannelPane;
+class ChannelPaneDock;
+class ChecksPanel;
 class DesignExplorer;
 class HelpImagePanel;
 class InputPage;
@@ -56,7 +58,8 @@ public:
     HelpImagePanel *helpImage() const { return m_helpImage; }
     QPushButton *calculateButton() const { return cmdCalculate; }
     const MainMenus &menus() const { return m_menus; }
-    const ChannelPane &channelPane() const { return m_channelPane; }
+    ChannelPane *channelPane() const;
+    ChecksPanel *checksPanel() const { return m_checks; }
     DesignExplorer *designExplorer() const { return m_designExplorer; }
     QString versionText() const { return m_versionText; }
     // Whether tab `tab`'s panel may be shown: set once the panels were sized to the tab.
@@ -134,7 +137,7 @@ private:
     void showResults(const CalculationOutcome &outcome);
     // The channel pane and its checks (frmMainChecks.cpp).
     void buildChannelPane();
-    void showChecksOf(const CalculationOutcome &outcome);
+    void showChannelOf(const CalculationOutcome &outcome);
     // The document the report is of: the current file, or the example opened untitled.
     ReportSource reportSource() const;
     void reportPdfWritten(const QString &path);
@@ -149,9 +152,10 @@ private:
     QString m_versionText;
 
     MainMenus m_menus;
-    ChannelPane m_channelPane;
     std::unique_ptr<RecentFilesMenu> m_recentFiles;
     std::unique_ptr<RecoveryStore> m_recovery;
+    std::unique_ptr<ChannelPaneDock> m_channelPane;
+    ChecksPanel *m_checks = nullptr; // in the channel pane, below the drawings
     QTabWidget *SSTab1 = nullptr;
     std::array<ScrollingPage *, 2> picStaionaryWindow {}; // page 0 Input Data, page 1 Results
     InputPage *m_inputPage = nullptr;

@@ -2,6 +2,7 @@
 // with the unsaved-data question and the file-error messages.
 #include "frmMain.h"
 
+#include "ChannelPane.h"
 #include "ChecksPanel.h"
 #include "InputPage.h"
 #include "OptionGroup.h"
@@ -79,7 +80,8 @@ void frmMain::ClearProject()
     empty.channelFlowMethod = 1;
     m_inputPage->showProject(empty);
     m_resultsPage->clearBoxes();
-    m_channelPane.checks->clear();
+    channelPane()->clear();
+    m_checks->clear();
     relayoutPages();
     setDataChanged(false);
     setResultsShown(false);
@@ -166,8 +168,10 @@ bool frmMain::OpenDataFile(const QString &path, int mode)
     ClearProject();
     m_inputPage->showProject(project);
     relayoutPages();
-    if (project.resultsShown)
+    if (project.resultsShown) {
         m_resultsPage->WriteResults(project.outputText);
+        channelPane()->showProject(project);
+    }
     setResultsShown(project.resultsShown);
     if (mode == OpenNormal) {
         m_recentFiles->add(path);

@@ -108,7 +108,7 @@ void tst_ChecksPanel::followsTheCalculationsOfTheWindow()
     const auto *dock = window.findChild<QDockWidget *>(QStringLiteral("channelDock"));
     QVERIFY(dock);
     QCOMPARE(dock->windowTitle(), QStringLiteral("Channel"));
-    ChecksPanel *panel = window.channelPane().checks;
+    ChecksPanel *panel = window.checksPanel();
     QCOMPARE(panel->table()->rowCount(), 0);
 
     const QString path = QFINDTESTDATA("../../examples/Median ditch - inlet interception.swl");
