@@ -58,13 +58,3 @@ struct GridWindow
                 grid->setText(r, c, QStringLiteral("%1.%2").arg(r).arg(c));
     }
 };
-
-inline void setClipboardText(const QString &text)
-{
-    QApplication::clipboard()->setText(text);
-}
-
-inline QString clipboardText()
-{
-    return QApplication::clipboard()->text();
-}

@@ -1,5 +1,6 @@
 #include "GridTestSupport.h"
 
+#include <QPalette>
 #include <QSignalSpy>
 
 // Layout, zones, visibility and the colours and clipping of painted cells, read back from the
@@ -18,12 +19,13 @@ private slots:
     void makeCellVisibleScrolls();
     void cellColours_data();
     void cellColours();
-    void textAlignment_data();
-    void textAlignment();
     void longTextIsClippedInsideItsCell();
     void columnResizeByDragging_data();
     void columnResizeByDragging();
     void resizeGuideInvertsAndErases();
+    void headerFrameUsesTheFourColoursInOrder_data();
+    void headerFrameUsesTheFourColoursInOrder();
+    void headerCaptionsKeepTheirColourWhenDisabled();
 };
 
 namespace {
@@ -33,6 +35,20 @@ const QString kBlock = QString(QChar(0x2588));
 QColor systemColor(const RdcGridA *grid, int index)
 {
     return GridColors::systemColor(index, grid->palette());
+}
+
+// Every system colour different: 22 (3-D light), 21 (dark shadow), 20 (3-D highlight),
+// 16 (button shadow), 18 (button text) and 17 (grey text).
+QPalette distinctPalette()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Midlight, QColor(250, 240, 10)); // 22
+    palette.setColor(QPalette::Shadow, QColor(10, 20, 30)); // 21
+    palette.setColor(QPalette::Light, QColor(240, 250, 250)); // 20
+    palette.setColor(QPalette::Dark, QColor(120, 60, 160)); // 16
+    palette.setColor(QPalette::ButtonText, QColor(200, 0, 0)); // 18
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0, 200, 0)); // 17
+    return palette;
 }
 } // namespace
 
@@ -98,7 +114,6 @@ void tst_RdcGridAPaint::visibility_data()
     // Surface 180 x 110 beside the vertical bar: columns 1 (30..94) and 2 (95..159) whole,
     // column 3 from 160 cut; rows 1 to 4 whole (20..99), row 5 from 100 cut.
     QTest::newRow("whole") << 1 << 1 << int(RdcGridA::FullyVisible);
-    QTest::newRow("row cut") << 5 << 1 << int(RdcGridA::PartlyVisible);
     QTest::newRow("column cut, row whole") << 2 << 3 << int(RdcGridA::PartlyVisible);
     QTest::newRow("row below the surface") << 7 << 1 << int(RdcGridA::NotVisible);
 }
@@ -182,51 +197,6 @@ void tst_RdcGridAPaint::cellColours()
     QCOMPARE(image.pixelColor(rect.center()), systemColor(w.grid, ink));
 }
 
-void tst_RdcGridAPaint::textAlignment_data()
-{
-    QTest::addColumn<int>("alignment");
-    QTest::addColumn<int>("firstInkFromLeft"); // offset of the glyph's box from the cell's left
-    QTest::addColumn<int>("lastInkFromRight"); // offset of its end from the grid-line pixel
-
-    QTest::newRow("right") << int(RdcGridA::AlignRight) << -1 << 2;
-    QTest::newRow("left") << int(RdcGridA::AlignLeft) << 2 << -1;
-}
-
-void tst_RdcGridAPaint::textAlignment()
-{
-    QFETCH(int, alignment);
-    QFETCH(int, firstInkFromLeft);
-    QFETCH(int, lastInkFromRight);
-    GridWindow w(4, 2, QSize(200, 120));
-    w.grid->setColumnAlignment(1, qint16(alignment));
-    w.grid->setText(2, 1, kBlock + kBlock);
-    w.grid->Refresh();
-    const QRect rect = w.grid->cellRectangle(2, 1);
-    const QImage image = w.surfaceImage();
-    const QColor ink = systemColor(w.grid, GridColors::WindowText);
-    const int y = rect.center().y();
-    // The block glyph may not fill its advance completely; look for the ink's extent.
-    int first = -1;
-    int last = -1;
-    for (int x = rect.left(); x <= rect.right(); ++x) {
-        if (image.pixelColor(x, y) == ink) {
-            if (first < 0)
-                first = x;
-            last = x;
-        }
-    }
-    QVERIFY(first >= 0);
-    const int advance = w.grid->TextWidth(kBlock + kBlock);
-    if (firstInkFromLeft >= 0)
-        QVERIFY2(first >= rect.left() + firstInkFromLeft && first <= rect.left() + 3,
-                 qPrintable(QString::number(first - rect.left())));
-    if (lastInkFromRight >= 0) {
-        QVERIFY2(last <= rect.right() - lastInkFromRight - 1 && last >= rect.right() - 4,
-                 qPrintable(QString::number(rect.right() - last)));
-        QVERIFY(first >= rect.right() - advance - 3);
-    }
-}
-
 void tst_RdcGridAPaint::longTextIsClippedInsideItsCell()
 {
     // Column 2 aligns left (the text runs out to the right), column 3 right (out to the left).
@@ -236,6 +206,8 @@ void tst_RdcGridAPaint::longTextIsClippedInsideItsCell()
     w.grid->setColumnAlignment(3, RdcGridA::AlignRight);
     w.grid->setText(2, 2, QString(30, QChar(0x2588)));
     w.grid->setText(2, 3, QString(30, QChar(0x2588)));
+    w.grid->setText(3, 2, kBlock); // a short text shows at its side of the cell
+    w.grid->setText(3, 3, kBlock);
     w.grid->Refresh();
     const QImage image = w.surfaceImage();
     const QColor ink = systemColor(w.grid, GridColors::WindowText);
@@ -252,6 +224,12 @@ void tst_RdcGridAPaint::longTextIsClippedInsideItsCell()
         QCOMPARE(image.pixelColor(rect.right() - 2, y), base);
         QCOMPARE(image.pixelColor(rect.right() - 1, y), base);
     }
+    const QRect left = w.grid->cellRectangle(3, 2), right = w.grid->cellRectangle(3, 3);
+    const int y = left.center().y();
+    QCOMPARE(image.pixelColor(left.left() + 4, y), ink);
+    QCOMPARE(image.pixelColor(left.right() - 4, y), base);
+    QCOMPARE(image.pixelColor(right.right() - 5, y), ink);
+    QCOMPARE(image.pixelColor(right.left() + 4, y), base);
     // The neighbours on both sides are untouched.
     QCOMPARE(image.pixelColor(w.grid->cellRectangle(2, 1).center()), base);
     QCOMPARE(image.pixelColor(w.grid->cellRectangle(2, 4).center()), base);
@@ -301,6 +279,67 @@ void tst_RdcGridAPaint::resizeGuideInvertsAndErases()
     QTest::mouseMove(w.pic(), guide + QPoint(5, 0));
     QCOMPARE(w.surfaceImage().pixelColor(probe), under); // the old guide is erased
     QTest::mouseRelease(w.pic(), Qt::LeftButton, Qt::NoModifier, guide + QPoint(5, 0));
+}
+
+// Rows of the header frame from the top edge down and from the bottom edge up, as a pixel a
+// little inside the left edge (clear of the centred caption) shows them. The bottom line is
+// the header separator, always colour 21.
+void tst_RdcGridAPaint::headerFrameUsesTheFourColoursInOrder_data()
+{
+    QTest::addColumn<int>("col");
+    QTest::addColumn<QColor>("top");
+    QTest::addColumn<QColor>("belowTop");
+    QTest::addColumn<QColor>("aboveBottom");
+    const QPalette p = distinctPalette();
+    const QColor c22 = p.color(QPalette::Midlight), c21 = p.color(QPalette::Shadow),
+                 c20 = p.color(QPalette::Light), c16 = p.color(QPalette::Dark);
+    QTest::newRow("raised (another column)") << 2 << c22 << c20 << c16;
+    QTest::newRow("pressed (the current cell's column)") << 1 << c16 << c21 << c22;
+}
+
+void tst_RdcGridAPaint::headerFrameUsesTheFourColoursInOrder()
+{
+    QFETCH(int, col);
+    QFETCH(QColor, top);
+    QFETCH(QColor, belowTop);
+    QFETCH(QColor, aboveBottom);
+    GridWindow w(4, 3, QSize(260, 140));
+    w.grid->setPalette(distinctPalette());
+    w.grid->SetCurrentCell(1, 1);
+    w.grid->Refresh();
+    const QImage image = w.surfaceImage();
+    const QRect header = w.grid->GetColumnHeaderRectangle(col);
+    const int x = header.left() + 3;
+    QCOMPARE(image.pixelColor(x, header.top()), top);
+    QCOMPARE(image.pixelColor(x, header.top() + 1), belowTop);
+    QCOMPARE(image.pixelColor(x, header.bottom() - 1), aboveBottom);
+    QCOMPARE(image.pixelColor(x, header.bottom()), distinctPalette().color(QPalette::Shadow));
+}
+
+// A row header away from the selection looks the same on a disabled grid: same frame, same
+// caption colour.
+void tst_RdcGridAPaint::headerCaptionsKeepTheirColourWhenDisabled()
+{
+    GridWindow w(4, 3, QSize(260, 140));
+    w.grid->setPalette(distinctPalette());
+    w.grid->SetCurrentCell(1, 1);
+    w.grid->Refresh();
+    const QRect cell = w.grid->cellRectangle(3, 1);
+    const QRect rowHeader(0, cell.top(), w.grid->GetColumnHeaderRectangle(1).left(), cell.height());
+    const QImage enabled = w.surfaceImage().copy(rowHeader);
+    w.grid->setEnabled(false);
+    w.grid->Refresh();
+    const QImage disabled = w.surfaceImage().copy(rowHeader);
+    QCOMPARE(disabled, enabled);
+    // The caption's strokes are red (button text), not green (grey text), antialiased or not.
+    bool captionDrawn = false;
+    for (int y = 0; y < enabled.height(); ++y) {
+        for (int x = 0; x < enabled.width(); ++x) {
+            const QColor pixel = enabled.pixelColor(x, y);
+            captionDrawn = captionDrawn || (pixel.red() > 120 && pixel.green() < 60);
+        }
+    }
+    QVERIFY2(captionDrawn, "the row number is drawn in button text");
 }
 
 QTEST_MAIN(tst_RdcGridAPaint)

@@ -49,15 +49,11 @@ PdfProbe::PdfProbe(const QString &pdfPath)
         word.text = unescapeHtml(match.captured(7));
         m_words.push_back(word);
     }
-    for (int page = 1; page <= pageCount(); ++page) {
-        QString text;
-        const QString number = QString::number(page);
-        if (!runPdftotext({ QStringLiteral("-layout"), QStringLiteral("-f"), number,
-                            QStringLiteral("-l"), number, pdfPath, QStringLiteral("-") },
-                          text))
-            return;
-        m_pageTexts.append(simplifiedText(text));
-    }
+    QString text; // pdftotext ends each page with a form feed
+    if (!runPdftotext({ QStringLiteral("-layout"), pdfPath, QStringLiteral("-") }, text))
+        return;
+    for (const QString &page : text.split(QLatin1Char('\f')).mid(0, pageCount()))
+        m_pageTexts.append(simplifiedText(page));
     m_valid = pageCount() > 0;
     if (!m_valid)
         m_error = QStringLiteral("no pages in ") + pdfPath;
@@ -85,14 +81,4 @@ QString PdfProbe::pageText(int page) const
 QString PdfProbe::text() const
 {
     return m_pageTexts.join(QLatin1Char(' '));
-}
-
-std::vector<PdfWord> PdfProbe::wordsOf(int page) const
-{
-    std::vector<PdfWord> result;
-    for (const PdfWord &word : m_words) {
-        if (word.page == page)
-            result.push_back(word);
-    }
-    return result;
 }

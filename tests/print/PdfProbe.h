@@ -36,8 +36,6 @@ public:
     QString pageText(int page) const;
     QString text() const;
     const std::vector<PdfWord> &words() const { return m_words; }
-    // The words of one page.
-    std::vector<PdfWord> wordsOf(int page) const;
 
 private:
     bool runPdftotext(const QStringList &arguments, QString &output);

@@ -84,7 +84,6 @@ void tst_ReportLayout::wrapText_data()
     QTest::addColumn<int>("characters");
     QTest::addColumn<QString>("expected"); // lines joined by "|"
 
-    QTest::newRow("fits on one line") << "Grass lined" << 20 << "Grass lined";
     QTest::newRow("breaks at blanks")
             << "Dense Bermuda grass sod" << 13 << "Dense Bermuda|grass sod";
     QTest::newRow("cuts a word longer than the line") << "abcdefghij" << 4 << "abcd|efgh|ij";
@@ -111,7 +110,6 @@ void tst_ReportLayout::elideText_data()
     QTest::addColumn<QString>("expected");
 
     const QString ellipsis(QChar(0x2026));
-    QTest::newRow("fits unchanged") << "Route 9" << 42.0 << true << "Route 9";
     // 48 units: the ellipsis takes 6, seven characters of 6 fill the rest.
     QTest::newRow("cut on the right")
             << "County Road 12 swale" << 48.0 << true << QStringLiteral("County ") + ellipsis;
@@ -136,7 +134,6 @@ void tst_ReportLayout::usableMargins_data()
     QTest::addColumn<QMarginsF>("margins");
     QTest::addColumn<QMarginsF>("expected");
 
-    QTest::newRow("half inch kept") << QMarginsF(36, 36, 36, 36) << QMarginsF(36, 36, 36, 36);
     QTest::newRow("negative counts as none")
             << QMarginsF(-5, 36, 36, -1) << QMarginsF(0, 36, 36, 0);
     // 612 pt wide: at most 408 pt of margins, shared in the ratio the file gave (1 : 3).
@@ -151,11 +148,7 @@ void tst_ReportLayout::usableMargins()
 {
     QFETCH(QMarginsF, margins);
     QFETCH(QMarginsF, expected);
-    const QMarginsF usable = ::usableMargins({ QSizeF(612, 792), margins });
-    QCOMPARE(usable.left(), expected.left());
-    QCOMPARE(usable.top(), expected.top());
-    QCOMPARE(usable.right(), expected.right());
-    QCOMPARE(usable.bottom(), expected.bottom());
+    QCOMPARE(::usableMargins({ QSizeF(612, 792), margins }), expected);
 }
 
 void tst_ReportLayout::contentFollowsTheChosenMethods_data()
@@ -209,6 +202,7 @@ void tst_ReportLayout::contentFollowsTheChosenMethods()
     QCOMPARE(content.sections.size(), size_t(3));
     QCOMPARE(content.sections[0].heading, QStringLiteral("I.  INPUT DATA"));
     QCOMPARE(content.sections[1].heading, QStringLiteral("II.  RESULTS"));
+    QCOMPARE(content.sections[2].heading, QStringLiteral("III.  HYDRAULIC CHECKS"));
     QCOMPARE(headingsOf(content.sections[0]), inputGroups);
     QCOMPARE(headingsOf(content.sections[1]), resultGroups);
     QCOMPARE(fieldCount(content.sections[1]), resultCount);
@@ -252,7 +246,6 @@ void tst_ReportLayout::everyTextStaysInsideTheMargins_data()
     QTest::addColumn<double>("margin");
 
     QTest::newRow("letter, half inch") << QSizeF(612, 792) << 36.0;
-    QTest::newRow("letter, two inches") << QSizeF(612, 792) << 144.0;
     QTest::newRow("landscape, one inch") << QSizeF(792, 612) << 72.0;
 }
 
