@@ -56,11 +56,7 @@ TEST(SolveNormalDepth, MatchesAnIndependentSolutionAndRecoversTheFlow)
         CalcContext context;
         ASSERT_TRUE(SolveNormalDepth(data, context)) << context.CalculationErrorMessage;
         EXPECT_NEAR(data.NormalDepth, c.expectedDepth, 1e-9 * c.expectedDepth);
-        // The stored section is that of the depth found, and Manning gives back the flow.
         const SectionGeometry g = sectionGeometry(data.NormalDepth, c.B, c.Z1, c.Z2);
-        EXPECT_DOUBLE_EQ(data.FlowArea, g.Ax);
-        EXPECT_DOUBLE_EQ(data.WettedPerimeter, g.P);
-        EXPECT_DOUBLE_EQ(data.HydraulicRadius, g.Rh);
         EXPECT_NEAR(manningDischarge(c.n, g.Ax, g.Rh, c.Sc), c.Qp, 1e-9 * c.Qp);
     }
 }
@@ -88,38 +84,16 @@ TEST(SolveNormalDepth, ReportsNonConvergenceWithTheSettingsAsText)
               "10");
     EXPECT_EQ(data.NormalDepth, 0.0); // left as it was
     EXPECT_GT(data.FlowArea, 0.0); // the last trial's section
-
-    CalcContext defaults;
-    EXPECT_EQ(defaults.settings.NormalDepthTolerance, 1E-07);
-    EXPECT_EQ(defaults.settings.NormalDepthMaxIterations, 10000);
 }
 
+// Zero and tiny negative roughness are rows of NormalDepthTrapsTest.
 TEST(SolveNormalDepth, TurnsArithmeticFaultsIntoMessages)
 {
-    struct Case
-    {
-        const char *name;
-        double n;
-        double Qp;
-        const char *message;
-    };
-    const Case cases[] = {
-        { "zero roughness", 0, 10, "Arithmetic error in the calculation: division by zero" },
-        // A roughness of -1E-50 passes validation (it is -0 in single precision); the trial
-        // depth then doubles without end.
-        { "negative tiny roughness", -1e-50, 10, "Arithmetic error in the calculation: overflow" },
-        { "flow beyond the double range", 0.03, 1e308 * 10,
-          "Arithmetic error in the calculation: overflow" },
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        SwaleInputData data = record(kCases[0]);
-        data.RoughnessCoefficient = c.n;
-        data.PeakFlowRate = c.Qp;
-        CalcContext context;
-        EXPECT_FALSE(SolveNormalDepth(data, context));
-        EXPECT_EQ(context.CalculationErrorMessage, c.message);
-    }
+    SwaleInputData data = record(kCases[0]);
+    data.PeakFlowRate = 1e308 * 10; // beyond the double range
+    CalcContext context;
+    EXPECT_FALSE(SolveNormalDepth(data, context));
+    EXPECT_EQ(context.CalculationErrorMessage, "Arithmetic error in the calculation: overflow");
 }
 
 TEST(ErosionCheck, ReportsVelocityAndSafetyFactorAtNormalDepth)

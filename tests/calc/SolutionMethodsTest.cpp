@@ -20,15 +20,22 @@ SwaleInputData validated(const SwaleProject &project)
     return data;
 }
 
+// The record after a solution method ran on the project; the method must succeed.
+SwaleInputData solved(const SwaleProject &project, bool (*method)(SwaleInputData &, CalcContext &))
+{
+    SwaleInputData data = validated(project);
+    CalcContext context;
+    EXPECT_TRUE(method(data, context)) << context.CalculationErrorMessage;
+    return data;
+}
+
 constexpr double kDepth = 0.306334559101491; // ft, normal depth at 3 cfs
 constexpr double kRelative = 1e-8;
 } // namespace
 
 TEST(CalculateEfficiency, MatchesTheIndependentEvaluation)
 {
-    SwaleInputData data = validated(validProject(2));
-    CalcContext context;
-    ASSERT_TRUE(CalculateEfficiency(data, context));
+    const SwaleInputData data = solved(validProject(2), CalculateEfficiency);
     EXPECT_NEAR(data.NormalDepth, kDepth, kDepth * kRelative);
     EXPECT_NEAR(data.TopWidth, 5.83800735460895, 1e-7);
     EXPECT_NEAR(data.ErosionSafetyFactor, 2.51143470451, 1e-8);
@@ -63,9 +70,7 @@ TEST(CalculateEfficiency, LimitsByPeakOrSoilStorageWithoutCapping)
         p.inputText[23] = c.hb;
         p.inputText[13] = c.D;
         p.inputText[14] = c.Tc;
-        SwaleInputData data = validated(p);
-        CalcContext context;
-        ASSERT_TRUE(CalculateEfficiency(data, context));
+        const SwaleInputData data = solved(p, CalculateEfficiency);
         const double Vr = data.RunoffVolume;
         if (data.InfiltrationAtNormalDepth > data.PeakFlowRate) {
             EXPECT_EQ(data.MaxInfiltrationVolume, Vr);
@@ -81,9 +86,7 @@ TEST(CalculateEfficiency, LimitsByPeakOrSoilStorageWithoutCapping)
 
 TEST(CalculateRequiredLength, MatchesTheIndependentEvaluation)
 {
-    SwaleInputData data = validated(validProject(1));
-    CalcContext context;
-    ASSERT_TRUE(CalculateRequiredLength(data, context));
+    const SwaleInputData data = solved(validProject(1), CalculateRequiredLength);
     EXPECT_NEAR(data.LargerRoot, 18.6884064384, 1e-8);
     EXPECT_NEAR(data.SmallerRoot, 2.31159356163, 1e-9);
     EXPECT_NEAR(data.InfiltrationAtNormalDepth, 2.31159356163, 1e-9);
@@ -98,9 +101,7 @@ TEST(CalculateRequiredLength, MatchesTheIndependentEvaluation)
 TEST(CalculateRequiredLength, UnderGivenFlowDividesVolumeByDuration)
 {
     // Qp 4 cfs for 30 min: Vr 7200 ft3, Vm 5760 ft3, Qip = 5760 / 1800 = 3.2 cfs.
-    SwaleInputData data = validated(validProject(1, 2));
-    CalcContext context;
-    ASSERT_TRUE(CalculateRequiredLength(data, context));
+    const SwaleInputData data = solved(validProject(1, 2), CalculateRequiredLength);
     EXPECT_NEAR(data.NormalDepth, 0.360409589943, 1e-9);
     EXPECT_DOUBLE_EQ(data.InfiltrationAtNormalDepth, 3.2);
     EXPECT_NEAR(data.ResultLength, 44029.4712812, 1e-4);
@@ -113,9 +114,7 @@ TEST(CalculateRequiredLength, SoilStorageGovernsWhenTheWaterTableIsNear)
     SwaleProject p = validProject(1, 2);
     p.inputText[20] = "500"; // fast soil: little area needed
     p.inputText[23] = "0.05"; // but a shallow water table
-    SwaleInputData data = validated(p);
-    CalcContext context;
-    ASSERT_TRUE(CalculateRequiredLength(data, context));
+    const SwaleInputData data = solved(p, CalculateRequiredLength);
     const double L2 = data.MaxInfiltrationVolume / (0.05 * data.TopWidth * 35 / 100);
     EXPECT_NEAR(data.ResultLength, L2, 1e-9 * L2);
     EXPECT_NEAR(data.SoilStorageVolume, data.MaxInfiltrationVolume, 1e-6);
@@ -135,9 +134,7 @@ TEST(CalculateRequiredLength, ANegativeDiscriminantIsAnArithmeticFault)
 
 TEST(CalculateInletChannel, InterpolatesTheRatingCurveAtTheNormalDepth)
 {
-    SwaleInputData data = validated(validProject(3));
-    CalcContext context;
-    ASSERT_TRUE(CalculateInletChannel(data, context));
+    const SwaleInputData data = solved(validProject(3), CalculateInletChannel);
     EXPECT_NEAR(data.InletDischarge, 2.06334559101, 1e-9);
     EXPECT_NEAR(data.InletVolume, 7814.57247667, 1e-5);
     EXPECT_NEAR(data.ResultEfficiency, 72.3571525618, 1e-8);
@@ -150,9 +147,7 @@ TEST(CalculateInletChannel, UsesTheClippedHydrographEvenAboveThePeak)
     SwaleProject p = validProject(3);
     p.clearRatingCurve();
     setRatingCurve(p, { { "0", "0" }, { "1", "50" }, { "12", "60" } });
-    SwaleInputData data = validated(p);
-    CalcContext context;
-    ASSERT_TRUE(CalculateInletChannel(data, context));
+    const SwaleInputData data = solved(p, CalculateInletChannel);
     const double q = data.InletDischarge;
     EXPECT_GT(q, data.PeakFlowRate);
     EXPECT_NEAR(data.InletVolume, q * (70 - q * 10 / 3) * 60, 1e-6);

@@ -80,16 +80,6 @@ TEST(Sweep, EveryRowIsTheCalculationOfTheTypedValue)
     }
 }
 
-TEST(Sweep, ARefusedPointCarriesTheWindowsMessage)
-{
-    const SweepResult sweep = runSweep(validProject(4), { axis("Z1", -1, 3, 3) });
-    ASSERT_EQ(sweep.rows.size(), 3u);
-    EXPECT_EQ(sweep.rows[0].status, PointStatus::Invalid);
-    EXPECT_EQ(sweep.rows[0].message, "Left slope must be greater than zero.");
-    EXPECT_TRUE(sweep.rows[0].results.empty());
-    EXPECT_EQ(sweep.rows[2].status, PointStatus::Ok);
-}
-
 TEST(Sweep, PointTextReadsBackAsTheSameDouble)
 {
     const double values[]

