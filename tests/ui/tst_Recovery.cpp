@@ -3,6 +3,7 @@
 // autosave that the next start offers, while a clean exit leaves none; and instances running
 // side by side never take each other's autosaves.
 #include "FileFaults.h"
+#include "Files.h"
 #include "GlobalData.h"
 #include "ProjectFile.h"
 #include "RecordingPrompts.h"
@@ -23,16 +24,11 @@ namespace {
 
 enum class Command { New, Open, Example, Recent, Exit };
 
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // The bytes `project` saves to: two projects that save alike are the same document.
-QByteArray savedBytes(const SwaleProject &project, const QString &scratch)
+std::string savedBytes(const SwaleProject &project, const QString &scratch)
 {
-    return saveProject(scratch.toStdString(), project).ok ? fileBytes(scratch) : QByteArray();
+    const std::string path = scratch.toStdString();
+    return saveProject(path, project).ok ? readBytes(path) : std::string();
 }
 
 QStringList projectsIn(const QString &folder)

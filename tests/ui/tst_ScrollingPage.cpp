@@ -126,8 +126,6 @@ void tst_ScrollingPage::barsMoveTheContentPanel()
     QCOMPARE(page.content->pos(), QPoint(0, -120));
     page.viewport.hscScrollWindow()->setValue(45);
     QCOMPARE(page.content->pos(), QPoint(-45, -120));
-    page.viewport.scrollToOrigin();
-    QCOMPARE(page.content->pos(), QPoint(0, 0));
 }
 
 void tst_ScrollingPage::hidingABarPutsThePanelBackAtTheEdge()
@@ -163,7 +161,6 @@ void tst_ScrollingPage::isVisible_data()
     QTest::addColumn<int>("panelTop");
     QTest::addColumn<bool>("visible");
     // A viewport 100 high; the panel scrolled by 50 shows rows 50 to 149.
-    QTest::newRow("inside") << 60 << 20 << -50 << true;
     QTest::newRow("on the top row") << 50 << 20 << -50 << true;
     QTest::newRow("one row above") << 49 << 20 << -50 << false;
     QTest::newRow("ending on the last row") << 130 << 20 << -50 << true;
