@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "HelpImagePanel.h"
 #include "SettingsFiles.h"
 #include "ctrlPictureViewer.h"
@@ -25,13 +26,6 @@ void writeImage(const QString &path, int width)
     QImage image(width, width / 2, QImage::Format_RGB32);
     image.fill(Qt::darkCyan);
     QVERIFY(image.save(path, "PNG"));
-}
-
-void writeText(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
 }
 
 QString menuTicks(const HelpImagePanel::SizeEntries &entries)
@@ -84,9 +78,9 @@ void tst_HelpImagePanel::init()
     QVERIFY(QDir(m_program->path()).mkdir(QStringLiteral("help")));
     for (int size = 1; size <= 3; ++size)
         writeImage(m_program->filePath(QStringLiteral("help/%1.png").arg(size)), kWidths[size]);
-    writeText(m_program->filePath(QStringLiteral("HelpImages.ini")),
-              "SMALL=help/1.png\r\nmedium=help/2.png\r\n Large =help/3.png\r\n"
-              "LARGEST=help/missing.png\r\n");
+    writeBytes(m_program->filePath(QStringLiteral("HelpImages.ini")).toStdString(),
+               "SMALL=help/1.png\r\nmedium=help/2.png\r\n Large =help/3.png\r\n"
+               "LARGEST=help/missing.png\r\n");
 
     m_window = std::make_unique<QWidget>();
     m_viewer = new ctrlPictureViewer(m_window.get());
