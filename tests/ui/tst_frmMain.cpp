@@ -1,5 +1,6 @@
 // The window and its documents: the unsaved-data question, saving, opening, the settings.
 #include "HelpImagePanel.h"
+#include "InputPage.h"
 #include "MainWindowSuite.h"
 #include "tvrEditBox.h"
 
