@@ -2,12 +2,9 @@
 // as typing does, a sweep runs off the window's thread and exports its table, and a range it
 // cannot sweep is refused with a message.
 #include "DesignExplorer.h"
-#include "GlobalData.h"
-#include "RecordingPrompts.h"
-#include "frmMain.h"
-#include "tvrEditBox.h"
-
 #include "Sweep.h"
+#include "WindowFixture.h"
+#include "tvrEditBox.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -15,10 +12,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 class tst_DesignExplorer : public QObject
 {
@@ -34,36 +28,26 @@ private slots:
 
 private:
     void setAxis(const QString &symbol, const QString &from, const QString &to, int points);
-    DesignExplorer &explorer() { return *m_window->designExplorer(); }
+    DesignExplorer &explorer() { return *m_fx.window->designExplorer(); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    GlobalData m_folders;
-    RecordingPrompts m_prompts;
-    std::unique_ptr<frmMain> m_window;
+    WindowFixture m_fx;
 };
 
 void tst_DesignExplorer::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    const std::string root = m_folder->path().toStdString();
-    m_folders = { root + "/", root + "/", root + "/" };
-    m_prompts.clear();
-    m_window = std::make_unique<frmMain>(m_prompts, m_folders);
-    QVERIFY(m_window->OpenDataFile(
+    m_fx.setUp();
+    QVERIFY(m_fx.window->OpenDataFile(
             QStringLiteral(SWALE_EXAMPLES_DIR "/Roadside swale - required length.swl"),
             OpenExample));
-    m_window->calculateButton()->click();
-    QVERIFY(m_window->resultsShown());
-    m_window->showDesignExplorer();
-    QVERIFY(m_window->designExplorer());
+    m_fx.window->calculateButton()->click();
+    QVERIFY(m_fx.window->resultsShown());
+    m_fx.window->showDesignExplorer();
+    QVERIFY(m_fx.window->designExplorer());
 }
 
 void tst_DesignExplorer::cleanup()
 {
-    QCOMPARE(m_prompts.pendingAnswers(), 0);
-    m_window.reset();
-    m_folder.reset();
+    m_fx.tearDown();
 }
 
 void tst_DesignExplorer::setAxis(const QString &symbol, const QString &from, const QString &to,
@@ -86,14 +70,14 @@ void tst_DesignExplorer::solvedValueIsTypedIntoItsBox()
     explorer().findChild<QLineEdit *>(QStringLiteral("target"))->setText(QStringLiteral("1200"));
     explorer().solve();
     QVERIFY(explorer().canPutSolvedValue());
-    QVERIFY(m_window->resultsShown());
+    QVERIFY(m_fx.window->resultsShown());
 
     explorer().putSolvedValue();
-    QVERIFY(!m_window->resultsShown()); // the edit made the results stale
-    m_window->calculateButton()->click();
-    QVERIFY(m_window->resultsShown());
-    const double length = resultNumber(m_window->txtOutput(1)->text().toStdString());
-    QVERIFY2(qAbs(length - 1200) < 1200 * 1e-5, qPrintable(m_window->txtOutput(1)->text()));
+    QVERIFY(!m_fx.window->resultsShown()); // the edit made the results stale
+    m_fx.window->calculateButton()->click();
+    QVERIFY(m_fx.window->resultsShown());
+    const double length = resultNumber(m_fx.window->txtOutput(1)->text().toStdString());
+    QVERIFY2(qAbs(length - 1200) < 1200 * 1e-5, qPrintable(m_fx.window->txtOutput(1)->text()));
 }
 
 void tst_DesignExplorer::sweepRunsAndExportsItsTable()
@@ -104,8 +88,8 @@ void tst_DesignExplorer::sweepRunsAndExportsItsTable()
     QVERIFY(finished.wait(60000));
     QVERIFY(explorer().sweep()->complete);
 
-    const QString path = m_folder->filePath(QStringLiteral("sweep"));
-    m_prompts.answerSave(path);
+    const QString path = m_fx.folder->filePath(QStringLiteral("sweep"));
+    m_fx.prompts.answerSave(path);
     QVERIFY(explorer().exportCsv());
     QFile file(path + QStringLiteral(".csv"));
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -137,9 +121,9 @@ void tst_DesignExplorer::refusesARangeItCannotSweep()
     QFETCH(QString, to);
     QFETCH(QString, message);
     setAxis(QStringLiteral("B"), from, to, 10);
-    m_prompts.answerMessage();
+    m_fx.prompts.answerMessage();
     QVERIFY(!explorer().startSweep());
-    QCOMPARE(m_prompts.messages(), QStringList { message });
+    QCOMPARE(m_fx.prompts.messages(), QStringList { message });
 }
 
 QTEST_MAIN(tst_DesignExplorer)

@@ -1,23 +1,17 @@
-#include "GlobalData.h"
 #include "RdcGridA.h"
-#include "RecordingPrompts.h"
 #include "ScrollingPage.h"
-#include "frmMain.h"
+#include "WindowFixture.h"
 #include "tvrEditBox.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSpontaneKeyEvent>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QWheelEvent>
-
-#include <memory>
 
 namespace {
 
@@ -61,18 +55,14 @@ void tst_PageScrolling::documentCommandsLeaveThePagesAtTheTop_data()
 void tst_PageScrolling::documentCommandsLeaveThePagesAtTheTop()
 {
     QFETCH(QString, command);
-    QTemporaryDir folder;
-    QVERIFY(folder.isValid());
-    QDir(folder.path()).mkpath(QStringLiteral("program/Examples"));
-    const std::string root = folder.path().toStdString();
-    const GlobalData folders { root + "/program/", root + "/", root + "/" };
-    const QString example = QString::fromStdString(folders.programFolder) + "Examples/" + kExample;
-    const QString project = folder.path() + QStringLiteral("/project.swl");
+    WindowFixture fx;
+    fx.setUp();
+    const QString example = fx.programFile(QStringLiteral("Examples/") + kExample);
+    const QString project = fx.documentsFile(QStringLiteral("project.swl"));
     QVERIFY(QFile::copy(QStringLiteral(SWALE_EXAMPLES_DIR "/") + kExample, example));
     QVERIFY(QFile::copy(example, project));
-
-    RecordingPrompts prompts;
-    frmMain window(prompts, folders);
+    frmMain &window = *fx.window;
+    RecordingPrompts &prompts = fx.prompts;
     window.resize(900, 700);
     window.show();
     QApplication::setActiveWindow(&window);
