@@ -100,7 +100,7 @@ std::string checkValueText(double value)
 
 std::vector<CheckLine> hydraulicCheckLines(const HydraulicChecks &c)
 {
-    return {
+    std::vector<CheckLine> lines {
         plainLine("Critical depth", "[dc]", c.criticalDepth, "ft"),
         plainLine("Critical velocity", "[Vc]", c.criticalVelocity, "ft/s"),
         plainLine("Critical slope", "[Scc]", c.criticalSlope, "ft/ft"),
@@ -113,4 +113,14 @@ std::vector<CheckLine> hydraulicCheckLines(const HydraulicChecks &c)
         velocityRatioLine(c.velocityRatio),
         residenceTimeLine(c.residenceTime),
     };
+    // The same keys and order as the "checks" object of swale-calc --json.
+    const char *const keys[] = { "critical_depth",  "critical_velocity",
+                                 "critical_slope",  "hydraulic_depth",
+                                 "froude",          "regime",
+                                 "shear_mean",      "shear_max",
+                                 "specific_energy", "velocity_ratio",
+                                 "residence_time" };
+    for (size_t i = 0; i < lines.size(); ++i)
+        lines[i].key = keys[i];
+    return lines;
 }

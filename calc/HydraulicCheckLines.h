@@ -19,6 +19,7 @@ struct CheckLine
     std::string limit; // "" where no limit applies
     std::string verdict; // in words; "" where no limit applies
     bool fails = false; // the value fails its limit
+    const char *key = ""; // "critical_depth": the name of the value in JSON and CSV
 };
 
 // The lines of `checks` (which must hold values: an empty fault).

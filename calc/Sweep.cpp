@@ -5,6 +5,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <optional>
 
 namespace {
 constexpr size_t kProgressEvery = 256; // points between two progress reports
@@ -12,6 +13,15 @@ constexpr size_t kProgressEvery = 256; // points between two progress reports
 bool isCancelled(const std::atomic<bool> *cancel)
 {
     return cancel && cancel->load(std::memory_order_relaxed);
+}
+
+const std::vector<CheckLine> kNoLines;
+
+// The display lines of the hydraulic checks of `record`; none when they cannot be computed.
+std::vector<CheckLine> linesOfChecks(const SwaleInputData &record)
+{
+    const HydraulicChecks checks = computeHydraulicChecks(record);
+    return checks.fault.empty() ? hydraulicCheckLines(checks) : kNoLines;
 }
 
 // Calculates the working copy with the axes' boxes set to `values` and fills `row`.
@@ -22,14 +32,19 @@ void calculatePoint(SwaleProject &working, const std::vector<SweepAxis> &axes,
     for (size_t a = 0; a < axes.size(); ++a)
         working.inputText[static_cast<size_t>(axes[a].box)] = pointText(values[a]);
     const CalculationOutcome outcome = Calculate(working);
+    std::optional<std::vector<CheckLine>> checkLines;
     row.inputs = values;
     row.results.clear();
     switch (outcome.status) {
     case CalculationOutcome::Status::Ok:
         row.status = PointStatus::Ok;
         row.results.reserve(columns.size());
-        for (const ResultColumn &column : columns)
-            row.results.push_back(column.text(outcome));
+        for (const ResultColumn &column : columns) {
+            // The checks take a search of their own: worked out once a row, when asked for.
+            if (column.fromChecks && !checkLines)
+                checkLines = linesOfChecks(outcome.record);
+            row.results.push_back(column.text(outcome, checkLines ? *checkLines : kNoLines));
+        }
         row.message.clear();
         return;
     case CalculationOutcome::Status::Invalid:

@@ -74,6 +74,27 @@ bool isInputUsed(int box, int solutionMethod, int channelFlowMethod)
     return solutionMethod >= 1 && solutionMethod <= kSolutionMethodCount;
 }
 
+// The hydraulic checks as columns, in the order and with the texts of their display lines; a
+// record whose checks could not be computed shows them empty.
+static void appendCheckColumns(std::vector<ResultColumn> &columns, int solutionMethod)
+{
+    HydraulicChecks sample;
+    sample.residenceTime = 0.0;
+    const std::vector<CheckLine> lines = hydraulicCheckLines(sample);
+    for (size_t i = 0; i < lines.size(); ++i) {
+        const CheckLine &line = lines[i];
+        if (line.key == std::string("residence_time") && solutionMethod > 2)
+            continue;
+        const std::string caption
+                = line.symbol.empty() ? line.quantity : line.quantity + ", " + line.symbol;
+        columns.push_back({ line.key, caption, line.unit,
+                            [i](const CalculationOutcome &, const std::vector<CheckLine> &shown) {
+                                return i < shown.size() ? shown[i].value : std::string();
+                            },
+                            true });
+    }
+}
+
 std::vector<ResultColumn> resultColumns(int solutionMethod, int channelFlowMethod)
 {
     std::vector<ResultColumn> columns;
@@ -81,11 +102,13 @@ std::vector<ResultColumn> resultColumns(int solutionMethod, int channelFlowMetho
         if (box == kRepeatedSafetyFactorBox || !isOutputFilled(box, solutionMethod))
             continue;
         const std::string caption = outputCaption(box, solutionMethod, channelFlowMethod);
-        columns.push_back({ bracketedSymbol(caption), caption, outputBox(box).unit,
-                            [box](const CalculationOutcome &outcome) {
-                                return outcome.results[static_cast<size_t>(box)];
-                            } });
+        columns.push_back(
+                { bracketedSymbol(caption), caption, outputBox(box).unit,
+                  [box](const CalculationOutcome &outcome, const std::vector<CheckLine> &) {
+                      return outcome.results[static_cast<size_t>(box)];
+                  } });
     }
+    appendCheckColumns(columns, solutionMethod);
     return columns;
 }
 
@@ -96,5 +119,7 @@ std::string resultSymbolList()
         if (box != kRepeatedSafetyFactorBox)
             list += (list.empty() ? "" : " ") + bracketedSymbol(outputBox(box).caption);
     }
+    for (const CheckLine &line : hydraulicCheckLines(HydraulicChecks()))
+        list += std::string(" ") + line.key;
     return list;
 }

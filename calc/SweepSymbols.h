@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Calculate.h"
+#include "HydraulicCheckLines.h"
 
 #include <functional>
 #include <string>
@@ -30,12 +31,16 @@ struct ResultColumn
     std::string key; // "L", "FSe": the CSV column name and the --solve name
     std::string caption; // as the Results page shows it for these options
     std::string unit; // "" for none
-    // The text this column shows for a successful calculation, as the results page writes it.
-    std::function<std::string(const CalculationOutcome &)> text;
+    // The text this column shows for a successful calculation, as the Results page writes it,
+    // or for the display lines of the hydraulic checks of its record (none when they could not
+    // be computed).
+    std::function<std::string(const CalculationOutcome &, const std::vector<CheckLine> &)> text;
+    bool fromChecks = false; // the column reads the hydraulic checks
 };
 
-// The result columns of a solution method, in page order: every result box the method fills,
-// box 13 (a repeat of box 3) left out.
+// The result columns of a solution method: every result box the method fills in page order, box
+// 13 (a repeat of box 3) left out, then the hydraulic checks under their JSON keys
+// ("critical_depth", ...; "residence_time" for methods 1 and 2 only).
 std::vector<ResultColumn> resultColumns(int solutionMethod, int channelFlowMethod);
-// The symbols of every result box, for usage messages.
+// The symbols of every result box and the keys of the hydraulic checks, for usage messages.
 std::string resultSymbolList();

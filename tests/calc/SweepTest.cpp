@@ -10,6 +10,13 @@
 #include <limits>
 
 namespace {
+
+// The display lines of the checks of a calculation, as a sweep row shows them.
+std::vector<CheckLine> checkLinesOf(const CalculationOutcome &outcome)
+{
+    const HydraulicChecks checks = computeHydraulicChecks(outcome.record);
+    return checks.fault.empty() ? hydraulicCheckLines(checks) : std::vector<CheckLine>();
+}
 SweepAxis axis(const char *symbol, double from, double to, int points,
                Spacing spacing = Spacing::Linear)
 {
@@ -74,7 +81,7 @@ TEST(Sweep, EveryRowIsTheCalculationOfTheTypedValue)
             }
             ASSERT_EQ(point.results.size(), sweep.columns.size());
             for (size_t c = 0; c < sweep.columns.size(); ++c)
-                EXPECT_EQ(point.results[c], sweep.columns[c].text(expected))
+                EXPECT_EQ(point.results[c], sweep.columns[c].text(expected, checkLinesOf(expected)))
                         << sweep.columns[c].key;
         }
     }
@@ -191,7 +198,8 @@ TEST(SolveForTarget, FindsTheInputThatMeetsTheTarget)
         ASSERT_EQ(check.status, CalculationOutcome::Status::Ok);
         const auto columns = resultColumns(row.method, project.channelFlowMethod);
         const std::string text
-                = columns[static_cast<size_t>(columnIndex(columns, row.result))].text(check);
+                = columns[static_cast<size_t>(columnIndex(columns, row.result))].text(
+                        check, checkLinesOf(check));
         EXPECT_EQ(text, outcome.resultText);
         EXPECT_NEAR(resultNumber(text), row.target, row.target * 1e-5);
     }
@@ -224,6 +232,6 @@ TEST(SweepCsv, QuotesCaptionsAndMessagesThatNeedIt)
     EXPECT_EQ(sweepCsvHeader(sweep, CsvHeader::Symbols).rfind("L,status,L_result,e,FSe,Qp,", 0),
               0u);
     EXPECT_EQ(sweepCsvRow(sweep, sweep.rows[0]),
-              "-1,invalid,,,,,,,,,,,,,,,,,,Channel length must be greater than zero.\n");
+              "-1,invalid,,,,,,,,,,,,,,,,,,,,,,,,,,,,,Channel length must be greater than zero.\n");
 }
 } // namespace

@@ -56,7 +56,10 @@ TEST(SweepCommand, WritesOneCsvLinePerPoint)
     std::istringstream lines(csv);
     std::string line;
     std::getline(lines, line);
-    EXPECT_EQ(line, "L,n,status,L_result,e,FSe,Qp,Vr,dr,d,Wt,Ax,P,Rh,V,Id,Ab,Qip,Vm,Vs,message");
+    EXPECT_EQ(line,
+              "L,n,status,L_result,e,FSe,Qp,Vr,dr,d,Wt,Ax,P,Rh,V,Id,Ab,Qip,Vm,Vs,critical_depth,"
+              "critical_velocity,critical_slope,hydraulic_depth,froude,regime,shear_mean,shear_max,"
+              "specific_energy,velocity_ratio,residence_time,message");
     std::getline(lines, line);
     EXPECT_EQ(line.rfind("100,0.02,ok,100,", 0), 0u) << line;
     int rows = 1;
