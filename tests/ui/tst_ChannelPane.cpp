@@ -2,7 +2,7 @@
 // between runs, and the export of a drawing through the window's prompts.
 #include "ChannelPane.h"
 #include "GlobalData.h"
-#include "RecordingPrompts.h"
+#include "WindowFixture.h"
 #include "frmMain.h"
 #include "tvrEditBox.h"
 
@@ -36,83 +36,64 @@ private slots:
     void drawingsExportAsPngSvgAndClipboard();
 
 private:
-    void makeWindow();
     void calculateExample();
     QDockWidget *dock() const;
     QByteArray windowState() const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    GlobalData m_folders;
-    RecordingPrompts m_prompts;
-    std::unique_ptr<frmMain> m_window;
+    WindowFixture m_fx;
 };
 
 void tst_ChannelPane::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    for (const char *sub : { "program", "settings", "documents" })
-        QDir(m_folder->path()).mkpath(QLatin1String(sub));
-    const std::string root = m_folder->path().toStdString();
-    m_folders = { root + "/program/", root + "/settings/", root + "/documents/" };
-    m_prompts.clear();
-    makeWindow();
+    m_fx.setUp();
 }
 
 void tst_ChannelPane::cleanup()
 {
-    QCOMPARE(m_prompts.pendingAnswers(), 0);
-    m_window.reset();
-    m_folder.reset();
-}
-
-void tst_ChannelPane::makeWindow()
-{
-    m_window.reset();
-    m_window = std::make_unique<frmMain>(m_prompts, m_folders);
+    m_fx.tearDown();
 }
 
 void tst_ChannelPane::calculateExample()
 {
-    QVERIFY(m_window->OpenDataFile(
+    QVERIFY(m_fx.window->OpenDataFile(
             QStringLiteral(SWALE_EXAMPLES_DIR "/Median ditch - inlet interception.swl"),
             OpenExample));
-    m_window->calculateButton()->click();
-    QCOMPARE(m_window->channelPane()->state(), ChannelPane::State::Current);
+    m_fx.window->calculateButton()->click();
+    QCOMPARE(m_fx.window->channelPane()->state(), ChannelPane::State::Current);
 }
 
 QDockWidget *tst_ChannelPane::dock() const
 {
-    return m_window->findChild<QDockWidget *>(QStringLiteral("channelDock"));
+    return m_fx.window->findChild<QDockWidget *>(QStringLiteral("channelDock"));
 }
 
 QByteArray tst_ChannelPane::windowState() const
 {
-    QFile file(QString::fromStdString(m_folders.settingsFolder)
+    QFile file(QString::fromStdString(m_fx.folders.settingsFolder)
                + QStringLiteral("WindowState.ini"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void tst_ChannelPane::drawingsFollowCalculateEditAndNew()
 {
-    ChannelPane *pane = m_window->channelPane();
+    ChannelPane *pane = m_fx.window->channelPane();
     QCOMPARE(pane->state(), ChannelPane::State::Empty);
     QVERIFY(!pane->views());
     calculateExample();
     QVERIFY(pane->views());
     // The drawing is of the depth shown (to the seven digits of the result box).
-    QVERIFY(qAbs(pane->views()->section.d - m_window->txtOutput(7)->text().toDouble()) < 1e-6);
+    QVERIFY(qAbs(pane->views()->section.d - m_fx.window->txtOutput(7)->text().toDouble()) < 1e-6);
 
     // The job name does not enter the calculation; the bottom width does.
-    QTest::keyClick(m_window->txtInput(1)->editor(), Qt::Key_X);
+    QTest::keyClick(m_fx.window->txtInput(1)->editor(), Qt::Key_X);
     QCOMPARE(pane->state(), ChannelPane::State::Current);
-    QTest::keyClick(m_window->txtInput(5)->editor(), Qt::Key_9);
+    QTest::keyClick(m_fx.window->txtInput(5)->editor(), Qt::Key_9);
     QCOMPARE(pane->state(), ChannelPane::State::Stale);
     QVERIFY(pane->views()); // kept, greyed
     QCOMPARE(pane->message(), QString::fromUtf8(kChannelPaneStaleText));
 
-    m_prompts.answerMessage(MessageAnswer::No); // do not save the changes
-    m_window->newCommand();
+    m_fx.prompts.answerMessage(MessageAnswer::No); // do not save the changes
+    m_fx.window->newCommand();
     QCOMPARE(pane->state(), ChannelPane::State::Empty);
     QVERIFY(!pane->views());
 }
@@ -120,29 +101,29 @@ void tst_ChannelPane::drawingsFollowCalculateEditAndNew()
 void tst_ChannelPane::failedCalculateShowsTheReason()
 {
     calculateExample();
-    m_window->txtInput(5)->setText(QStringLiteral("wide"));
-    m_prompts.answerMessage();
-    m_window->calculateButton()->click();
-    ChannelPane *pane = m_window->channelPane();
+    m_fx.window->txtInput(5)->setText(QStringLiteral("wide"));
+    m_fx.prompts.answerMessage();
+    m_fx.window->calculateButton()->click();
+    ChannelPane *pane = m_fx.window->channelPane();
     QCOMPARE(pane->state(), ChannelPane::State::Failed);
     QVERIFY(!pane->views());
-    QVERIFY2(pane->message().contains(m_prompts.messages().last()), qPrintable(pane->message()));
+    QVERIFY2(pane->message().contains(m_fx.prompts.messages().last()), qPrintable(pane->message()));
 }
 
 void tst_ChannelPane::viewMenuSitsBetweenFileAndHelpAndTogglesTheDock()
 {
     QStringList titles;
-    for (QAction *menu : m_window->menuBar()->actions())
+    for (QAction *menu : m_fx.window->menuBar()->actions())
         titles << menu->text();
     QCOMPARE(titles.mid(0, 3),
              QStringList({ QStringLiteral("&File"), QStringLiteral("&View"),
                            QStringLiteral("&Help") }));
-    QAction *toggle = m_window->menus().mnuView_ChannelPane;
+    QAction *toggle = m_fx.window->menus().mnuView_ChannelPane;
     QCOMPARE(toggle->text(), QStringLiteral("&Channel Pane"));
     QCOMPARE(dock()->windowTitle(), QStringLiteral("Channel"));
-    QCOMPARE(dock()->widget(), m_window->channelPane());
+    QCOMPARE(dock()->widget(), m_fx.window->channelPane());
 
-    m_window->show();
+    m_fx.window->show();
     toggle->setChecked(true);
     QVERIFY(dock()->isVisible());
     toggle->setChecked(false);
@@ -154,48 +135,48 @@ void tst_ChannelPane::viewMenuSitsBetweenFileAndHelpAndTogglesTheDock()
 void tst_ChannelPane::paneVisibilityIsKeptBetweenRuns()
 {
     // The designed window (960 pixels) leaves no room for the pane: hidden at first.
-    m_window->show();
+    m_fx.window->show();
     QVERIFY(dock()->isHidden());
-    QVERIFY(!m_window->menus().mnuView_ChannelPane->isChecked());
-    m_window->menus().mnuView_ChannelPane->setChecked(true);
-    QVERIFY(m_window->close());
+    QVERIFY(!m_fx.window->menus().mnuView_ChannelPane->isChecked());
+    m_fx.window->menus().mnuView_ChannelPane->setChecked(true);
+    QVERIFY(m_fx.window->close());
     QVERIFY2(windowState().contains("ChannelPane=1\r\n"), windowState().constData());
 
-    makeWindow();
-    m_window->show();
+    m_fx.makeWindow();
+    m_fx.window->show();
     QVERIFY(dock()->isVisible());
-    QVERIFY(m_window->menus().mnuView_ChannelPane->isChecked());
-    m_window->menus().mnuView_ChannelPane->setChecked(false);
-    QVERIFY(m_window->close());
+    QVERIFY(m_fx.window->menus().mnuView_ChannelPane->isChecked());
+    m_fx.window->menus().mnuView_ChannelPane->setChecked(false);
+    QVERIFY(m_fx.window->close());
     QVERIFY(windowState().contains("ChannelPane=0\r\n"));
     QVERIFY(windowState().startsWith("State=0\r\nTop=")); // the window's own keys as before
 
-    makeWindow();
-    m_window->show();
+    m_fx.makeWindow();
+    m_fx.window->show();
     QVERIFY(dock()->isHidden());
 }
 
 void tst_ChannelPane::drawingsExportAsPngSvgAndClipboard()
 {
     calculateExample();
-    ChannelViewWidget *section = m_window->channelPane()->viewWidget(ChannelView::CrossSection);
-    const QString svgPath = QString::fromStdString(m_folders.documentsFolder) + "section.svg";
-    m_prompts.answerSave(svgPath);
+    ChannelViewWidget *section = m_fx.window->channelPane()->viewWidget(ChannelView::CrossSection);
+    const QString svgPath = QString::fromStdString(m_fx.folders.documentsFolder) + "section.svg";
+    m_fx.prompts.answerSave(svgPath);
     QVERIFY(section->saveAs(QStringLiteral("svg")));
-    QCOMPARE(m_prompts.records().last().request.defaultSuffix, QStringLiteral("svg"));
+    QCOMPARE(m_fx.prompts.records().last().request.defaultSuffix, QStringLiteral("svg"));
     QFile svg(svgPath);
     QVERIFY(svg.open(QIODevice::ReadOnly));
     const QByteArray content = svg.readAll();
     QVERIFY(content.contains("<svg"));
     QVERIFY(content.contains("Wt = "));
 
-    ChannelViewWidget *rating = m_window->channelPane()->viewWidget(ChannelView::RatingCurves);
-    const QString pngPath = QString::fromStdString(m_folders.documentsFolder) + "rating.png";
-    m_prompts.answerSave(pngPath);
+    ChannelViewWidget *rating = m_fx.window->channelPane()->viewWidget(ChannelView::RatingCurves);
+    const QString pngPath = QString::fromStdString(m_fx.folders.documentsFolder) + "rating.png";
+    m_fx.prompts.answerSave(pngPath);
     QVERIFY(rating->saveAs(QStringLiteral("png")));
     QCOMPARE(QImage(pngPath).size(), QSize(800, 500));
 
-    m_prompts.answerSave(QString()); // cancelled
+    m_fx.prompts.answerSave(QString()); // cancelled
     QVERIFY(!rating->saveAs(QStringLiteral("png")));
 
     rating->resize(400, 300);
