@@ -35,7 +35,7 @@ const char *const kShearUnit = "lb/ft²";
 namespace {
 CheckLine plainLine(const char *quantity, const char *symbol, double value, const char *unit)
 {
-    return { quantity, symbol, checkValueText(value), unit, "", "", false };
+    return { quantity, symbol, checkValueText(value), unit, "", "", false, value };
 }
 
 CheckLine regimeLine(FlowRegime regime)

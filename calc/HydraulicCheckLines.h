@@ -19,6 +19,7 @@ struct CheckLine
     std::string limit; // "" where no limit applies
     std::string verdict; // in words; "" where no limit applies
     bool fails = false; // the value fails its limit
+    double number = 0; // the value at full precision, for JSON (0 for the regime)
     const char *key = ""; // "critical_depth": the name of the value in JSON and CSV
 };
 

@@ -1,5 +1,6 @@
 #include "JsonOutput.h"
 
+#include "HydraulicCheckLines.h"
 #include "HydraulicChecks.h"
 #include "NumberText.h"
 
@@ -49,27 +50,18 @@ std::string jsonChecks(const SwaleInputData &record)
     const HydraulicChecks c = computeHydraulicChecks(record);
     if (!c.fault.empty())
         return ", \"checks\": null, \"checks_fault\": " + jsonString(c.fault);
-    const std::pair<const char *, double> numbers[] = {
-        { "critical_depth", c.criticalDepth },
-        { "critical_velocity", c.criticalVelocity },
-        { "critical_slope", c.criticalSlope },
-        { "hydraulic_depth", c.hydraulicDepth },
-        { "froude", c.froude },
-    };
+    // The keys, order and values of the checks' display lines; numbers at full precision.
     std::string out = ", \"checks\": {";
-    for (const auto &[key, value] : numbers)
-        out += std::string("\"") + key + "\": " + jsonNumber(value) + ", ";
-    out += "\"regime\": " + jsonString(regimeName(c.regime));
-    const std::pair<const char *, double> more[] = {
-        { "shear_mean", c.shearMean },
-        { "shear_max", c.shearMax },
-        { "specific_energy", c.specificEnergy },
-        { "velocity_ratio", c.velocityRatio },
-    };
-    for (const auto &[key, value] : more)
-        out += std::string(", \"") + key + "\": " + jsonNumber(value);
-    out += ", \"residence_time\": "
-            + (c.residenceTime ? jsonNumber(*c.residenceTime) : std::string("null"));
+    const char *separator = "";
+    for (const CheckLine &line : hydraulicCheckLines(c)) {
+        std::string value = jsonNumber(line.number);
+        if (line.key == std::string("regime"))
+            value = jsonString(line.value);
+        else if (line.value.empty())
+            value = "null"; // no residence time without a channel length
+        out += separator + ("\"" + std::string(line.key) + "\": ") + value;
+        separator = ", ";
+    }
     return out + "}";
 }
 } // namespace
