@@ -9,6 +9,7 @@
 
 #include "FuzzScratch.h"
 #include "NumberText.h"
+#include "NumberTexts.h"
 
 #include <cfloat>
 #include <cmath>
@@ -71,22 +72,10 @@ void checkLeadingNumber(const std::string &text)
         invariantBroken("a leading zero changes the number of \"" + text + "\"");
 }
 
-bool displayable(const std::string &text)
-{
-    for (size_t i = 0; i + 3 <= text.size(); ++i) {
-        std::string three = text.substr(i, 3);
-        for (char &c : three)
-            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-        if (three == "nan" || three == "inf")
-            return false;
-    }
-    return true;
-}
-
 // The display text of a finite value reads back to it within `relative` of its size.
 void checkDisplayText(const std::string &text, double value, double relative)
 {
-    if (!displayable(text) || !isRecognisedNumber(text) || AddLeadingZero(text) != text)
+    if (holdsNanOrInf(text) || !isRecognisedNumber(text) || AddLeadingZero(text) != text)
         invariantBroken("display text \"" + text + "\" is not a plain number");
     const double back = leadingNumber(text);
     // Rounded to its digits, a value next to the largest double reads back as infinity.

@@ -75,9 +75,18 @@ bool RecordingPrompts::takeAnswer(Kind kind, const QString &what, Answer &answer
     return false;
 }
 
+RecordingPrompts::Record &RecordingPrompts::record(Kind kind)
+{
+    m_records.append(Record { kind });
+    return m_records.last();
+}
+
 int RecordingPrompts::ShowErrorMessage(const QString &message, int style, const QString &title)
 {
-    m_records.append({ Kind::Message, message, style, title, {}, QPageSize::Custom, {} });
+    Record &box = record(Kind::Message);
+    box.message = message;
+    box.style = style;
+    box.title = title;
     Answer answer;
     if (takeAnswer(Kind::Message, QStringLiteral("message box \"%1\"").arg(message), answer))
         return answer.button;
@@ -87,7 +96,7 @@ int RecordingPrompts::ShowErrorMessage(const QString &message, int style, const 
 
 QString RecordingPrompts::askFileName(Kind kind, const FileDialogRequest &request)
 {
-    m_records.append({ kind, QString(), 0, QString(), request, QPageSize::Custom, {} });
+    record(kind).request = request;
     Answer answer;
     const QString what = kind == Kind::OpenDialog ? QStringLiteral("Open dialog")
                                                   : QStringLiteral("Save dialog");
@@ -106,13 +115,7 @@ QString RecordingPrompts::askSaveFileName(const FileDialogRequest &request)
 
 bool RecordingPrompts::askPrinter(QPrinter &printer)
 {
-    m_records.append({ Kind::PrintDialog,
-                       QString(),
-                       0,
-                       QString(),
-                       {},
-                       printer.pageLayout().pageSize().id(),
-                       {} });
+    record(Kind::PrintDialog).paper = printer.pageLayout().pageSize().id();
     Answer answer;
     if (!takeAnswer(Kind::PrintDialog, QStringLiteral("print dialog"), answer))
         return false;
@@ -126,8 +129,7 @@ bool RecordingPrompts::askPrinter(QPrinter &printer)
 
 bool RecordingPrompts::askPageSetup(ReportPageSetup &setup, const PageMargins &fileMargins)
 {
-    m_records.append(
-            { Kind::PageSetup, QString(), 0, QString(), {}, QPageSize::Custom, fileMargins });
+    record(Kind::PageSetup).fileMargins = fileMargins;
     Answer answer;
     if (!takeAnswer(Kind::PageSetup, QStringLiteral("page setup"), answer))
         return false;
@@ -138,8 +140,7 @@ bool RecordingPrompts::askPageSetup(ReportPageSetup &setup, const PageMargins &f
 // Unscripted, the recovery dialog answers Later: nothing is opened or deleted.
 RecoveryAnswer RecordingPrompts::askRecovery(const QList<RecoveryOffer> &offers)
 {
-    m_records.append(
-            { Kind::RecoveryDialog, QString(), 0, QString(), {}, QPageSize::Custom, {}, offers });
+    record(Kind::RecoveryDialog).offers = offers;
     Answer answer;
     return takeAnswer(Kind::RecoveryDialog, QStringLiteral("recovery dialog"), answer)
             ? answer.recovery
@@ -155,9 +156,7 @@ void RecordingPrompts::answerPreview(std::function<void(ReportPreviewDialog &)> 
 
 void RecordingPrompts::showPreview(ReportPreviewDialog &dialog)
 {
-    Record record { Kind::Preview };
-    record.pages = dialog.pageCount();
-    m_records.append(record);
+    record(Kind::Preview).pages = dialog.pageCount();
     Answer answer;
     if (takeAnswer(Kind::Preview, QStringLiteral("print preview"), answer) && answer.whileShown)
         answer.whileShown(dialog);

@@ -81,6 +81,8 @@ private:
         RecoveryAnswer recovery;
         std::function<void(ReportPreviewDialog &)> whileShown;
     };
+    // A new record of a prompt of `kind`, to be filled in.
+    Record &record(Kind kind);
     // The scripted answer for a prompt of `kind`, or false when none was scripted.
     bool takeAnswer(Kind kind, const QString &what, Answer &answer);
     QString askFileName(Kind kind, const FileDialogRequest &request);
