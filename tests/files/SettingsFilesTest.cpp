@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -59,33 +60,16 @@ TEST(WindowStateFile, WritesTheLinesOfItsState)
     EXPECT_EQ(readBytes(path), "State=2\r\n");
 }
 
-TEST(HelpImageSettings, KeepsOnlyNamedFilesThatExist)
-{
-    TempFolder folder;
-    const std::string program = folder.path() + "/";
-    writeBytes(program + "small.png", "x");
-    writeBytes(program + "large.png", "x");
-    writeBytes(program + kHelpImagesFile,
-               " small = small.png\r\nMedium=medium.png\r\nLARGE=large.png\r\nLargest=\r\n"
-               "junk line\r\n");
-    const HelpImageFiles files = ReadHelpImageFolders(program);
-    EXPECT_EQ(files[1], "small.png");
-    EXPECT_EQ(files[2], ""); // named, but the file does not exist
-    EXPECT_EQ(files[3], "large.png");
-    EXPECT_EQ(files[4], ""); // empty value
-}
-
 // The chosen size is 1 to 4; anything else in the file leaves the choice to the window.
 TEST(HelpImageSettings, DefaultSizeFromOneToFour)
 {
     TempFolder folder;
     const std::string settings = folder.path() + "/";
-    ASSERT_TRUE(WriteDefHelpImage(settings, 4));
-    EXPECT_EQ(ReadDefHelpImage(settings), 4);
-    for (const char *content : { "5\r\n", "0\r\n", "big\r\n" }) {
-        SCOPED_TRACE(content);
+    const std::pair<const char *, int> cases[]
+            = { { "4\r\n", 4 }, { "5\r\n", 0 }, { "0\r\n", 0 }, { "big\r\n", 0 } };
+    for (const auto &[content, size] : cases) {
         writeBytes(settings + kDefHelpImageFile, content);
-        EXPECT_EQ(ReadDefHelpImage(settings), 0);
+        EXPECT_EQ(ReadDefHelpImage(settings), size) << content;
     }
 }
 
