@@ -60,6 +60,19 @@ TEST(WindowStateFile, WritesTheLinesOfItsState)
     EXPECT_EQ(readBytes(path), "State=2\r\n");
 }
 
+// The default window size takes only a height and a width from its file.
+TEST(DefWindowSizeFile, ReadsOnlyHeightAndWidth)
+{
+    TempFolder folder;
+    const std::string path = folder.file(kDefWindowSizeFile);
+    writeBytes(path, "State=2\r\nTop=5\r\nHeight=9000\r\nWidth=12000\r\n");
+    WindowPlacement placement;
+    ASSERT_TRUE(ReadDefWindowSize(path, placement));
+    EXPECT_EQ(placement.height, 9000);
+    EXPECT_EQ(placement.width, 12000);
+    EXPECT_FALSE(placement.state || placement.top);
+}
+
 // The chosen size is 1 to 4; anything else in the file leaves the choice to the window.
 TEST(HelpImageSettings, DefaultSizeFromOneToFour)
 {
