@@ -1,27 +1,18 @@
 #include "DataFile.h"
 
 #include "Files.h"
+#include "SettingsFiles.h"
 #include "TextEncoding.h"
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 using Lines = std::vector<std::string>;
-
-bool writeFile(const std::string &path, const Lines &lines)
-{
-    DataFile file;
-    if (!file.OpenForWrite(path))
-        return false;
-    for (const std::string &line : lines) {
-        if (!file.WriteLine(line))
-            return false;
-    }
-    return file.Close();
-}
 
 // Every line of the file; fails the test when the file does not open.
 Lines readAllLines(const std::string &path)
@@ -36,99 +27,71 @@ Lines readAllLines(const std::string &path)
     return lines;
 }
 
-struct LineEndingCase
+struct FileCase
 {
     const char *name;
     std::string bytes;
-    Lines expected;
+    Lines lines; // UTF-8
 };
 
-const LineEndingCase kLineEndings[] = {
+// "\xC3\xA9" is é in UTF-8, "\xE9" in Windows-1252.
+const FileCase kReads[] = {
     { "CR LF", "a\r\nb\r\n", { "a", "b" } },
     { "lone LF", "a\nb\n", { "a", "b" } },
     { "no terminator on the last line", "a\r\nb", { "a", "b" } },
     { "a CR inside a line stays", "a\rb\r\n", { "a\rb" } },
     { "empty file", "", {} },
     { "a single terminator is one empty line", "\r\n", { "" } },
+    { "UTF-8", "caf\xC3\xA9 \xE2\x82\xAC", { "caf\xC3\xA9 \xE2\x82\xAC" } },
+    { "Windows-1252 letters", "caf\xE9", { "caf\xC3\xA9" } },
+    { "Windows-1252 signs", "\x80 \x93q\x94", { "\xE2\x82\xAC \xE2\x80\x9Cq\xE2\x80\x9D" } },
+    { "Windows-1252 undefined byte", "a\x81", { "a\xC2\x81" } },
+    { "byte-order mark dropped", "\xEF\xBB\xBFSwale_03", { "Swale_03" } },
 };
 
-TEST(DataFileReading, AcceptsCrLfAndLoneLf)
+TEST(DataFileReading, LinesOfUtf8ElseWindows1252)
 {
     TempFolder folder;
-    for (const LineEndingCase &row : kLineEndings) {
+    const std::string path = folder.file("read.txt");
+    for (const FileCase &row : kReads) {
         SCOPED_TRACE(row.name);
-        const std::string path = folder.file("endings.txt");
         writeBytes(path, row.bytes);
-        EXPECT_EQ(readAllLines(path), row.expected);
+        EXPECT_EQ(readAllLines(path), row.lines);
     }
 }
-
-struct EncodingCase
-{
-    const char *name;
-    std::string fileBytes;
-    std::string text; // UTF-8
-};
-
-// Bytes on disk and the text they stand for. "\xC3\xA9" is é in UTF-8, "\xE9" in Windows-1252.
-const EncodingCase kReadEncodings[] = {
-    { "UTF-8", "caf\xC3\xA9 \xE2\x82\xAC", "caf\xC3\xA9 \xE2\x82\xAC" },
-    { "Windows-1252 letters", "caf\xE9", "caf\xC3\xA9" },
-    { "Windows-1252 euro and quotes", "\x80 \x93q\x94", "\xE2\x82\xAC \xE2\x80\x9Cq\xE2\x80\x9D" },
-    { "Windows-1252 undefined byte", "a\x81", "a\xC2\x81" },
-    { "byte-order mark dropped", "\xEF\xBB\xBFSwale_03", "Swale_03" },
-};
-
-TEST(DataFileEncoding, ReadsUtf8ElseWindows1252)
-{
-    TempFolder folder;
-    for (const EncodingCase &row : kReadEncodings) {
-        SCOPED_TRACE(row.name);
-        const std::string path = folder.file("encoding.txt");
-        writeBytes(path, row.fileBytes + "\r\n");
-        EXPECT_EQ(readAllLines(path), Lines { row.text });
-    }
-}
-
-struct RoundTripCase
-{
-    const char *name;
-    Lines lines;
-    std::string fileBytes; // what the file must hold
-};
 
 // Lines that once came back changed, or could not be written at all, after being read from a
-// file: whatever a file gave must save and read back as it was.
-const RoundTripCase kRoundTrips[] = {
+// file, and the bytes the file must hold: whatever a file gave must save and read back as it was.
+const FileCase kRoundTrips[] = {
     { "every character fits Windows-1252",
-      { "caf\xC3\xA9", "\xE2\x82\xAC 5" },
-      "caf\xE9\r\n\x80 5\r\n" },
+      "caf\xE9\r\n\x80 5\r\n",
+      { "caf\xC3\xA9", "\xE2\x82\xAC 5" } },
     { "one character that does not fit makes the file UTF-8",
-      { "caf\xC3\xA9", "\xCE\x94h" },
-      "caf\xC3\xA9\r\n\xCE\x94h\r\n" },
+      "caf\xC3\xA9\r\n\xCE\x94h\r\n",
+      { "caf\xC3\xA9", "\xCE\x94h" } },
     { "Windows-1252 text that would read as UTF-8 is written as UTF-8",
-      { "\xC3\x83\xC2\xA9" },
-      "\xC3\x83\xC2\xA9\r\n" },
+      "\xC3\x83\xC2\xA9\r\n",
+      { "\xC3\x83\xC2\xA9" } },
     // "Ã©" reads as é only when the whole file is UTF-8: one byte elsewhere that cannot be UTF-8
     // decides for Windows-1252.
     { "a byte elsewhere that cannot be UTF-8 keeps the file Windows-1252",
-      { "caf\xC3\xA9", "\xC3\x83\xC2\xA9" },
-      "caf\xE9\r\n\xC3\xA9\r\n" },
+      "caf\xE9\r\n\xC3\xA9\r\n",
+      { "caf\xC3\xA9", "\xC3\x83\xC2\xA9" } },
     { "a leading U+FEFF keeps a byte-order mark in front of it",
-      { "\xEF\xBB\xBFpath" },
-      "\xEF\xBB\xBF\xEF\xBB\xBFpath\r\n" },
-    { "a lone CR inside a value", { "carriage\rreturn" }, "carriage\rreturn\r\n" },
-    { "a CR at the end of a value", { "ends\r", "next" }, "ends\r\r\nnext\r\n" },
+      "\xEF\xBB\xBF\xEF\xBB\xBFpath\r\n",
+      { "\xEF\xBB\xBFpath" } },
+    { "a lone CR inside a value", "carriage\rreturn\r\n", { "carriage\rreturn" } },
+    { "a CR at the end of a value", "ends\r\r\nnext\r\n", { "ends\r", "next" } },
 };
 
 TEST(DataFileEncoding, WrittenLinesReadBackUnchanged)
 {
     TempFolder folder;
     const std::string path = folder.file("round.txt");
-    for (const RoundTripCase &row : kRoundTrips) {
+    for (const FileCase &row : kRoundTrips) {
         SCOPED_TRACE(row.name);
-        ASSERT_TRUE(writeFile(path, row.lines));
-        EXPECT_EQ(readBytes(path), row.fileBytes);
+        ASSERT_TRUE(WriteSettingsFile(path, row.lines)); // DataFile's lines, then Close
+        EXPECT_EQ(readBytes(path), row.bytes);
         EXPECT_EQ(readAllLines(path), row.lines);
     }
 }
@@ -154,35 +117,26 @@ TEST(TextEncoding, EveryWindows1252ByteRoundTrips)
     EXPECT_EQ(back, all);
 }
 
-struct IntegerCase
-{
-    const char *line;
-    bool ok;
-    int value;
-};
-
-const IntegerCase kIntegers[] = {
-    { "  12  ", true, 12 }, { "\t5\t", true, 5 },     { "+7", true, 7 },
-    { "-1", true, -1 },     { "32767", true, 32767 }, { "-32768", true, -32768 },
-    { "32768", false, 0 },  { "-32769", false, 0 },   { "", false, 0 },
-    { "1.5", false, 0 },    { "1e3", false, 0 },      { "0x10", false, 0 },
+// The messages of the refusals name the line: ProjectFileTest's damaged files check them.
+const std::pair<const char *, std::optional<int>> kIntegers[] = {
+    { "  12  ", 12 },   { "\t5\t", 5 },       { "+7", 7 },     { "-1", -1 },
+    { "32767", 32767 }, { "-32768", -32768 }, { "32768", {} }, { "-32769", {} },
+    { "", {} },         { "1.5", {} },        { "1e3", {} },   { "0x10", {} },
 };
 
 TEST(DataFileReadInteger, AcceptsOnlyShortWholeNumbers)
 {
     TempFolder folder;
     const std::string path = folder.file("integers.txt");
-    for (const IntegerCase &row : kIntegers) {
-        SCOPED_TRACE(std::string("line [") + row.line + "]");
-        writeBytes(path, std::string(row.line) + "\r\n");
+    for (const auto &[line, expected] : kIntegers) {
+        SCOPED_TRACE(std::string("line [") + line + "]");
+        writeBytes(path, std::string(line) + "\r\n");
         DataFile file;
         ASSERT_TRUE(file.OpenForRead(path));
         int value = -999;
-        EXPECT_EQ(file.ReadInteger(value), row.ok);
-        if (row.ok) {
-            EXPECT_EQ(value, row.value);
-        } else {
-            EXPECT_NE(file.errorString().find("line 1: "), std::string::npos) << file.errorString();
+        EXPECT_EQ(file.ReadInteger(value), expected.has_value());
+        if (expected) {
+            EXPECT_EQ(value, *expected);
         }
     }
 }
@@ -226,25 +180,6 @@ TEST(DataFileRefusals, AHugeLineFailsItsRead)
     ASSERT_TRUE(file.OpenForRead(path));
     EXPECT_TRUE(file.ReadLine(line));
     EXPECT_EQ(line.size(), DataFile::kMaxLineLength);
-}
-
-// The target is replaced only at Close: a writer destroyed part way leaves the old file.
-TEST(DataFileAtomicSave, ReplacesTheOldFileOnlyAtClose)
-{
-    TempFolder folder;
-    const std::string path = folder.file("project.swl");
-    writeBytes(path, "old\r\n");
-    for (const bool close : { false, true }) {
-        DataFile file;
-        ASSERT_TRUE(file.OpenForWrite(path));
-        ASSERT_TRUE(file.WriteLine("new"));
-        EXPECT_EQ(readBytes(path), "old\r\n") << "the target is untouched until Close";
-        if (close) {
-            ASSERT_TRUE(file.Close()) << file.errorString();
-        }
-    }
-    EXPECT_EQ(readBytes(path), "new\r\n");
-    EXPECT_EQ(folder.entries(), std::vector<std::string> { "project.swl" });
 }
 
 } // namespace

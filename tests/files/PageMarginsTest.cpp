@@ -9,7 +9,7 @@ namespace {
 struct MarginsCase
 {
     const char *name;
-    const char *fileBytes; // nullptr: no file
+    const char *fileBytes;
     bool expectedRead;
     int16_t scaleCode;
     float margin1, margin2, margin3, margin4;
@@ -18,29 +18,26 @@ struct MarginsCase
 // Expected margins are the file's integers divided by hand (1000 for thousandths of an inch,
 // 100 for hundredths of a millimetre); lines 4 and 5 land in margins 4 and 3.
 const MarginsCase kCases[] = {
-    { "no file keeps the defaults", nullptr, false, kScaleInches, 0.5f, 0.5f, 0.5f, 0.5f },
-    { "thousandths of an inch", "1\r\n750\r\n1000\r\n500\r\n250\r\n", true, kScaleInches, 0.75f,
-      1.0f, 0.25f, 0.5f },
     { "hundredths of a millimetre", "0\r\n2000\r\n2500\r\n1500\r\n1000\r\n", true,
       kScaleMillimetres, 20.0f, 25.0f, 10.0f, 15.0f },
-    { "lone LF lines and blanks around numbers", " 1 \n 100\n200 \n300\n400\n", true, kScaleInches,
-      0.1f, 0.2f, 0.4f, 0.3f },
-    { "lines after the fifth are ignored", "1\n100\n200\n300\n400\n999\nfoo\n", true, kScaleInches,
-      0.1f, 0.2f, 0.4f, 0.3f },
+    { "thousandths of an inch, in single precision, any sign", "1\n333\n1\n-250\n32767\n", true,
+      kScaleInches, 0.333f, 0.001f, 32.767f, -0.25f },
+    { "lone LF lines, blanks around numbers, lines after the fifth ignored",
+      " 1 \n 100\n200 \n300\n400\n999\nfoo\n", true, kScaleInches, 0.1f, 0.2f, 0.4f, 0.3f },
     { "four lines keep the defaults", "1\n750\n1000\n500\n", false, kScaleInches, 0.5f, 0.5f, 0.5f,
       0.5f },
     { "a line that is not a whole number keeps the defaults", "1\n750\n1.5\n500\n250\n", false,
       kScaleInches, 0.5f, 0.5f, 0.5f, 0.5f },
 };
 
+// The conversion to points is tst_PrintRoutine's, on the margins of the exported page.
 TEST(ReadPageMargins, ReadsFiveLinesWithCrossedFourthAndFifth)
 {
+    TempFolder folder;
+    const std::string path = folder.file(kMarginsFile);
     for (const MarginsCase &row : kCases) {
         SCOPED_TRACE(row.name);
-        TempFolder folder;
-        const std::string path = folder.file(kMarginsFile);
-        if (row.fileBytes)
-            writeBytes(path, row.fileBytes);
+        writeBytes(path, row.fileBytes);
         PageMargins margins;
         margins.ScaleCode = 99; // whatever the record held before is replaced
         margins.Margin1 = margins.Margin2 = margins.Margin3 = margins.Margin4 = 7.0f;
@@ -51,28 +48,6 @@ TEST(ReadPageMargins, ReadsFiveLinesWithCrossedFourthAndFifth)
         EXPECT_EQ(margins.Margin3, row.margin3);
         EXPECT_EQ(margins.Margin4, row.margin4);
     }
-}
-
-TEST(ReadPageMargins, StoresTheQuotientInSinglePrecision)
-{
-    TempFolder folder;
-    const std::string path = folder.file(kMarginsFile);
-    writeBytes(path, "1\n333\n1\n-250\n32767\n");
-    PageMargins margins;
-    ASSERT_TRUE(ReadPageMargins(path, margins));
-    EXPECT_EQ(margins.Margin1, static_cast<float>(333 / 1000.0)); // 0.333 as the nearest float
-    EXPECT_EQ(margins.Margin2, static_cast<float>(0.001));
-    EXPECT_EQ(margins.Margin4, -0.25f); // the file may say anything; the report copes
-    EXPECT_EQ(margins.Margin3, static_cast<float>(32.767));
-}
-
-TEST(MarginInPoints, ConvertsTheRecordsUnit)
-{
-    PageMargins inches;
-    EXPECT_DOUBLE_EQ(marginInPoints(inches, 0.5f), 36.0);
-    PageMargins millimetres;
-    millimetres.ScaleCode = kScaleMillimetres;
-    EXPECT_DOUBLE_EQ(marginInPoints(millimetres, 25.4f), static_cast<double>(25.4f) * 72.0 / 25.4);
 }
 
 } // namespace

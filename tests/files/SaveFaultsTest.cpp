@@ -8,12 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <iterator>
 #include <string>
 #include <vector>
-
-#include <sys/stat.h>
 
 namespace {
 
@@ -37,19 +33,18 @@ TEST(SaveFaults, KeepTheOldFileAndLeaveNoTemporaryFile)
     // one and a write that stops half way stops inside it.
     SwaleProject edited = validProject(1);
     setLongRatingCurve(edited, 120);
+    TempFolder sizing;
+    ASSERT_TRUE(saveProject(sizing.file("size.swl"), edited).ok);
+    const size_t newSize = readBytes(sizing.file("size.swl")).size();
     for (const SaveFaultCase &row : kSaveFaultCases) {
         SCOPED_TRACE(row.name);
-        TempFolder root;
-        chmod(root.path().c_str(), 0755); // open to the ordinary user
-        const std::string folderPath = root.file("projects");
-        ASSERT_EQ(mkdir(folderPath.c_str(), 0755), 0);
-        const std::string path = folderPath + "/swale.swl";
+        TempFolder projects;
+        openToOrdinaryUser(projects.path());
+        const std::string path = projects.file("swale.swl");
         ASSERT_TRUE(saveProject(path, validProject(1)).ok);
         const std::string oldBytes = readBytes(path);
-        ASSERT_TRUE(saveProject(root.file("size.swl"), edited).ok);
-        const size_t newSize = readBytes(root.file("size.swl")).size();
 
-        FaultyFolder folder(row.fault, folderPath);
+        FaultyFolder folder(row.fault, projects.path());
         const std::string notInForce = folder.arm(newSize);
         if (!notInForce.empty())
             GTEST_SKIP() << row.name << " cannot be made here: " << notInForce;
@@ -60,9 +55,7 @@ TEST(SaveFaults, KeepTheOldFileAndLeaveNoTemporaryFile)
         EXPECT_EQ(result.failedStep, row.failedStep);
         EXPECT_NE(result.error.find(folder.systemReason()), std::string::npos) << result.error;
         EXPECT_EQ(readBytes(path), oldBytes) << "the old file is changed";
-        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folderPath),
-                                std::filesystem::directory_iterator()),
-                  1)
+        EXPECT_EQ(projects.entries(), std::vector<std::string> { "swale.swl" })
                 << "a temporary file is left";
         // Once the fault is gone the same save goes through: nothing of the failed one is in
         // the way.

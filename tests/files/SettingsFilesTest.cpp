@@ -6,8 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -47,7 +49,7 @@ TEST(KeyValueFiles, ReadingRules)
 TEST(WindowStateFile, WritesTheLinesOfItsState)
 {
     TempFolder folder;
-    const std::string path = folder.file("WindowState.ini");
+    const std::string path = folder.file(kWindowStateFile);
     ASSERT_TRUE(WriteWindowState(path, WindowShowState::Normal, 150, 300, 9000, 12000));
     EXPECT_EQ(readBytes(path), "State=0\r\nTop=150\r\nLeft=300\r\nHeight=9000\r\nWidth=12000\r\n");
     WindowPlacement placement;
@@ -58,111 +60,81 @@ TEST(WindowStateFile, WritesTheLinesOfItsState)
     EXPECT_EQ(readBytes(path), "State=2\r\n");
 }
 
-TEST(HelpImageSettings, KeepsOnlyNamedFilesThatExist)
+// The default window size takes only a height and a width from its file.
+TEST(DefWindowSizeFile, ReadsOnlyHeightAndWidth)
 {
     TempFolder folder;
-    const std::string program = folder.path() + "/";
-    writeBytes(program + "small.png", "x");
-    writeBytes(program + "large.png", "x");
-    writeBytes(program + "HelpImages.ini",
-               " small = small.png\r\nMedium=medium.png\r\nLARGE=large.png\r\nLargest=\r\n"
-               "junk line\r\n");
-    const HelpImageFiles files = ReadHelpImageFolders(program);
-    EXPECT_EQ(files[1], "small.png");
-    EXPECT_EQ(files[2], ""); // named, but the file does not exist
-    EXPECT_EQ(files[3], "large.png");
-    EXPECT_EQ(files[4], ""); // empty value
+    const std::string path = folder.file(kDefWindowSizeFile);
+    writeBytes(path, "State=2\r\nTop=5\r\nHeight=9000\r\nWidth=12000\r\n");
+    WindowPlacement placement;
+    ASSERT_TRUE(ReadDefWindowSize(path, placement));
+    EXPECT_EQ(placement.height, 9000);
+    EXPECT_EQ(placement.width, 12000);
+    EXPECT_FALSE(placement.state || placement.top);
 }
 
-TEST(HelpImageSettings, DefaultSizeRoundTripAndBadValues)
+// The chosen size is 1 to 4; anything else in the file leaves the choice to the window.
+TEST(HelpImageSettings, DefaultSizeFromOneToFour)
 {
     TempFolder folder;
     const std::string settings = folder.path() + "/";
-    EXPECT_EQ(ReadDefHelpImage(settings), 0); // no file yet
-    for (int size = 1; size <= 4; ++size) {
-        ASSERT_TRUE(WriteDefHelpImage(settings, size));
-        EXPECT_EQ(ReadDefHelpImage(settings), size);
-    }
-    for (const char *content : { "5\r\n", "0\r\n", "big\r\n" }) {
-        SCOPED_TRACE(content);
-        writeBytes(settings + "DefHelpImg.ini", content);
-        EXPECT_EQ(ReadDefHelpImage(settings), 0);
+    const std::pair<const char *, int> cases[]
+            = { { "4\r\n", 4 }, { "5\r\n", 0 }, { "0\r\n", 0 }, { "big\r\n", 0 } };
+    for (const auto &[content, size] : cases) {
+        writeBytes(settings + kDefHelpImageFile, content);
+        EXPECT_EQ(ReadDefHelpImage(settings), size) << content;
     }
 }
 
-TEST(RecentFileList, MostRecentFirstWithoutDuplicatesAtMostFive)
-{
-    RecentFileList list;
-    for (const char *path : { "/a.swl", "/b.swl", "/c.swl", "/a.swl" })
-        list.add(path);
-    ASSERT_EQ(list.count(), 3);
-    EXPECT_EQ(list.entry(1), "/a.swl");
-    EXPECT_EQ(list.entry(2), "/c.swl");
-    EXPECT_EQ(list.entry(3), "/b.swl");
-    for (const char *path : { "/d.swl", "/e.swl", "/f.swl" })
-        list.add(path);
-    EXPECT_EQ(list.count(), 5);
-    EXPECT_EQ(list.entry(1), "/f.swl");
-    EXPECT_EQ(list.entry(5), "/c.swl"); // "/b.swl", the oldest, dropped out
-}
-
-TEST(RecentFileList, DisplayTextNumbersTheEntryAndKeepsAmpersands)
-{
-    RecentFileList list;
-    list.add("/data/Smith & Sons/swale.swl");
-    list.add("/data/a.swl");
-    EXPECT_EQ(list.displayText(1), "&1 /data/a.swl");
-    EXPECT_EQ(list.displayText(2), "&2 /data/Smith && Sons/swale.swl");
-}
-
-// What is saved loads back; a file edited by hand loses blanks and repeats and keeps five.
-TEST(RecentFileList, SaveAndLoadRoundTrip)
+// Most recent first, without repeats, at most five; a file edited by hand loses its blanks and
+// repeats. Menu texts number the entries and double an ampersand; what is saved loads back.
+TEST(RecentFileList, MostRecentFirstWithoutRepeatsAtMostFive)
 {
     TempFolder folder;
+    const std::string path = folder.file(kRecentFilesFile);
+    writeBytes(path, "/1\r\n\r\n/2\r\n/1\r\n/3\r\n/4\r\n/5\r\n/6\r\n");
     RecentFileList list;
-    list.add("/x/one.swl");
-    list.add("/x/two \xC3\xA9.swl"); // a path that needs UTF-8 in the file
-    ASSERT_TRUE(list.save(folder.file("RecentFiles.ini")));
+    ASSERT_TRUE(list.load(path));
+    list.add("/3");
+    list.add("/Smith & Sons \xC3\xA9.swl"); // a path that needs UTF-8 in the file
+    EXPECT_EQ(list.displayText(1), "&1 /Smith && Sons \xC3\xA9.swl");
+    EXPECT_EQ(list.displayText(2), "&2 /3");
+    ASSERT_TRUE(list.save(path));
     RecentFileList loaded;
-    ASSERT_TRUE(loaded.load(folder.file("RecentFiles.ini")));
-    ASSERT_EQ(loaded.count(), 2);
-    EXPECT_EQ(loaded.entry(1), "/x/two \xC3\xA9.swl");
-    EXPECT_EQ(loaded.entry(2), "/x/one.swl");
-    writeBytes(folder.file("RecentFiles.ini"), "/1\r\n\r\n/2\r\n/1\r\n/3\r\n/4\r\n/5\r\n/6\r\n");
-    ASSERT_TRUE(loaded.load(folder.file("RecentFiles.ini")));
+    ASSERT_TRUE(loaded.load(path));
     ASSERT_EQ(loaded.count(), 5);
-    EXPECT_EQ(loaded.entry(5), "/5");
+    const char *const expected[] = { "/Smith & Sons \xC3\xA9.swl", "/3", "/1", "/2", "/4" };
+    for (int i = 1; i <= 5; ++i)
+        EXPECT_EQ(loaded.entry(i), expected[i - 1]) << "entry " << i;
 }
 
-class ProgramFolders : public ::testing::Test
+// Start-up gives the settings folder's path whether or not the folder could be created: a file
+// in its place makes the writers fail, without a word, and stays as it was.
+TEST(ProgramFolders, FirstRunCreatesTheSettingsFolder)
 {
-protected:
-    TempFolder m_folder;
-    ScopedVariable m_dataHome { "XDG_DATA_HOME", m_folder.path() + "/data" };
-    ScopedVariable m_home { "HOME", m_folder.path() };
-};
-
-TEST_F(ProgramFolders, FirstRunCreatesTheSettingsFolders)
-{
-    GlobalData data;
-    FolderError error;
-    ASSERT_TRUE(BuildGlobalData(m_folder.path() + "/program", data, error));
-    EXPECT_EQ(data.programFolder, m_folder.path() + "/program/");
-    EXPECT_EQ(data.settingsFolder, m_folder.path() + "/data/TAVRO33/Swale/");
-    EXPECT_TRUE(folderExists(data.settingsFolder));
-    // No Documents folder in the temporary home: the home folder stands in.
-    EXPECT_EQ(data.documentsFolder, m_folder.path() + "/");
-}
-
-TEST_F(ProgramFolders, UnknownSpecialFolderIsError513)
-{
-    std::string path = "unchanged";
-    FolderError error;
-    EXPECT_FALSE(SpecialFolder(17, path, error));
-    EXPECT_EQ(path, "unchanged");
-    EXPECT_EQ(error.number, 513);
-    EXPECT_EQ(error.source, "SpecialFolder");
-    EXPECT_EQ(error.description, "The folder path could not be detected");
+    for (const bool blocked : { false, true }) {
+        SCOPED_TRACE(blocked ? "a file in the settings folder's place" : "first run");
+        TempFolder root;
+        const ScopedVariable dataHome("XDG_DATA_HOME", root.file("data"));
+        const ScopedVariable home("HOME", root.path());
+        const std::string settings = root.file("data/TAVRO33/Swale");
+        if (blocked) {
+            std::filesystem::create_directories(root.file("data/TAVRO33"));
+            writeBytes(settings, "Width=9000\r\n");
+        }
+        GlobalData data;
+        FolderError error;
+        ASSERT_TRUE(BuildGlobalData(root.file("program"), data, error));
+        EXPECT_EQ(data.programFolder, root.file("program/"));
+        EXPECT_EQ(data.settingsFolder, settings + "/");
+        EXPECT_EQ(folderExists(settings), !blocked);
+        // No Documents folder in the temporary home: the home folder stands in.
+        EXPECT_EQ(data.documentsFolder, root.path() + "/");
+        EXPECT_EQ(WriteDefHelpImage(data.settingsFolder, 3), !blocked);
+        if (blocked) {
+            EXPECT_EQ(readBytes(settings), "Width=9000\r\n");
+        }
+    }
 }
 
 } // namespace
