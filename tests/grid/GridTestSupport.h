@@ -9,7 +9,18 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
-#include <QVBoxLayout>
+
+// A selection as a rectangle of (column, row) corners, which QCOMPARE prints.
+inline QRect range(int top, int left, int bottom, int right)
+{
+    return QRect(QPoint(left, top), QPoint(right, bottom));
+}
+
+inline QRect selectionOf(const RdcGridA *grid)
+{
+    const RdcGridA::SelectionRange r = grid->GetSelectionRange();
+    return range(r.topRow, r.leftCol, r.bottomRow, r.rightCol);
+}
 
 // A window holding one grid and a line edit that can take the focus away from it.
 // The grid is laid out with known sizes: no title, header row 20, data rows 20, row-header
@@ -50,11 +61,4 @@ struct GridWindow
         QTest::mouseClick(pic(), Qt::LeftButton, modifiers, cellCentre(row, col));
     }
     QImage surfaceImage() const { return pic()->grab().toImage(); }
-    // Fills rows 1.. with "r.c" texts.
-    void fill(int rows, int cols) const
-    {
-        for (int r = 1; r <= rows; ++r)
-            for (int c = 1; c <= cols; ++c)
-                grid->setText(r, c, QStringLiteral("%1.%2").arg(r).arg(c));
-    }
 };

@@ -1,9 +1,8 @@
+#include "GridTestSupport.h"
 #include "PropertyBag.h"
 #include "RatingCurveGrid.h"
-#include "RdcGridA.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 // The grid's cell store, its properties and their saving.
 class tst_RdcGridA : public QObject
@@ -11,74 +10,33 @@ class tst_RdcGridA : public QObject
     Q_OBJECT
 
 private slots:
-    void savedStateLeavesOutDefaults();
-    void savedStateRoundTrip();
+    void savedState();
     void headerLabels();
-    void dataWrites_data();
     void dataWrites();
-    void cellsKeepTheirSizeUntilClear();
-    void colsResizesColumnArrays();
-    void columnWidthAndAlignment();
-    void clearKeepsHeadersAndGoesHome();
+    void columnArrays();
+    void rowsGrowUntilClear();
     void rowAndColAsymmetry();
     void ratingCurveGrid();
 };
 
-void tst_RdcGridA::savedStateLeavesOutDefaults()
+// Only what differs from the defaults is saved. The rating-curve grid's properties come back
+// whole, and reading them starts the column widths and alignments again from the defaults.
+void tst_RdcGridA::savedState()
 {
     RdcGridA grid;
     PropertyBag fresh;
     grid.writeProperties(fresh);
     QVERIFY(fresh.isEmpty());
-
-    grid.setRows(50);
-    grid.setTitle(QStringLiteral("Curve"));
-    grid.setBackColor(0x00FF8000u);
-    PropertyBag changed;
-    grid.writeProperties(changed);
-    QCOMPARE(changed.keys(), QStringList({ "Rows", "BackColor", "Title" })); // saving order
-    QCOMPARE(changed.ReadProperty("Rows", 10).toInt(), 50);
-    QCOMPARE(changed.ReadProperty("BackColor", 0).toUInt(), 0x00FF8000u);
-}
-
-void tst_RdcGridA::savedStateRoundTrip()
-{
-    RdcGridA source;
-    source.setDefaultDataColumnWidth(80);
-    source.setDefaultRowHeaderWidth(40);
-    source.setDefaultDataAlign(3);
-    source.setReadOnly(false);
-    source.setEnabled(false);
-    source.setCols(3);
-    source.setRows(25);
-    source.setBackColor(0x00112233u);
-    source.setCellBackColor(GridColors::tagged(GridColors::ButtonFace));
-    source.setTitleVisible(false);
-    source.setTitleHeight(25);
-    source.setTitle(QStringLiteral("Inlet"));
-    source.setHeaderRowHeight(30);
-    source.setDataRowHeight(22);
-    source.setRowLabelAlign(3);
-    source.setBoldColumnHeaders(true);
-    source.setColumnWidth(2, 123); // run-time widths are not saved
-    source.setColumnAlignment(2, 2);
-    PropertyBag bag;
-    source.writeProperties(bag);
-    QCOMPARE(bag.count(), 16);
-
-    RdcGridA copy;
-    copy.readProperties(bag);
+    grid.setColumnWidth(1, 123);
+    const PropertyBag bag = ratingCurveGridProperties();
+    grid.readProperties(bag);
     PropertyBag again;
-    copy.writeProperties(again);
+    grid.writeProperties(again);
     QCOMPARE(again.keys(), bag.keys());
     for (const QString &key : bag.keys())
         QCOMPARE(again.ReadProperty(key, QVariant()), bag.ReadProperty(key, QVariant()));
-    QCOMPARE(copy.ColumnWidth(0), 40);
-    for (int col = 1; col <= 3; ++col) {
-        QCOMPARE(copy.ColumnWidth(col), 80);
-        QCOMPARE(copy.ColumnAlignment(col), qint16(0));
-    }
-    QCOMPARE(copy.ColumnAlignment(0), qint16(3));
+    QCOMPARE(grid.ColumnWidth(1), grid.DefaultDataColumnWidth());
+    QCOMPARE(grid.ColumnAlignment(0), qint16(RdcGridA::AlignCentre)); // the row labels' alignment
 }
 
 void tst_RdcGridA::headerLabels()
@@ -98,63 +56,44 @@ void tst_RdcGridA::headerLabels()
     QCOMPARE(grid.Changed(), false);
 }
 
-void tst_RdcGridA::dataWrites_data()
-{
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("cols");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("col");
-    QTest::addColumn<QString>("readBack");
-    QTest::addColumn<int>("changes");
-
-    QTest::newRow("last cell") << 5 << 2 << 5 << 2 << "v" << 1;
-    QTest::newRow("row past Rows") << 5 << 2 << 6 << 1 << "" << 0;
-    QTest::newRow("column 0") << 5 << 2 << 1 << 0 << "" << 0;
-    QTest::newRow("grid without rows: Change but nothing stored") << 0 << 2 << 1 << 1 << "" << 1;
-}
-
 void tst_RdcGridA::dataWrites()
 {
-    QFETCH(int, rows);
-    QFETCH(int, cols);
-    QFETCH(int, row);
-    QFETCH(int, col);
-    QFETCH(QString, readBack);
-    QFETCH(int, changes);
-    RdcGridA grid;
-    grid.setRows(rows);
-    grid.setCols(cols);
-    QSignalSpy change(&grid, &RdcGridA::Change);
-    grid.setText(row, col, QStringLiteral("v"));
-    QCOMPARE(change.count(), changes);
-    QCOMPARE(grid.Changed(), changes > 0);
-    if (row >= 1 && row <= rows)
-        QCOMPARE(grid.Text(row, col), readBack);
+    // "v" written to (row, col) of a fresh grid of `rows` x 2: the text read back there, the
+    // number of Change signals and Changed().
+    const auto write = [](int rows, int row, int col) {
+        RdcGridA grid;
+        grid.setRows(rows);
+        grid.setCols(2);
+        QSignalSpy change(&grid, &RdcGridA::Change);
+        grid.setText(row, col, QStringLiteral("v"));
+        return std::tuple(grid.Text(row, col), int(change.count()), grid.Changed());
+    };
+    QCOMPARE(write(5, 5, 2), std::tuple(QStringLiteral("v"), 1, true)); // the last cell
+    QCOMPARE(write(5, 6, 1), std::tuple(QString(), 0, false)); // a row past Rows
+    QCOMPARE(write(5, 1, 0), std::tuple(QString(), 0, false)); // column 0
+    // A grid without rows answers with a Change, although nothing is stored.
+    QCOMPARE(write(0, 1, 1), std::tuple(QString(), 1, true));
 }
 
-void tst_RdcGridA::cellsKeepTheirSizeUntilClear()
-{
-    RdcGridA grid;
-    grid.setCols(2);
-    grid.setRows(50);
-    grid.setText(1, 1, QStringLiteral("0"));
-    grid.setRows(60);
-    QVERIFY_THROWS_EXCEPTION(StoreIndexError, grid.setText(55, 1, QStringLiteral("x")));
-    QVERIFY_THROWS_EXCEPTION(StoreIndexError, grid.Text(55, 1));
-    QCOMPARE(grid.Text(55, 3), QString()); // columns are tested before the row is used
-    grid.Clear();
-    grid.setText(55, 1, QStringLiteral("x"));
-    QCOMPARE(grid.Text(55, 1), QStringLiteral("x"));
-    QCOMPARE(grid.Text(1, 1), QString());
-}
-
-void tst_RdcGridA::colsResizesColumnArrays()
+// Cols 2 to 4: the old columns keep their width and alignment, the new ones take the defaults
+// and are numbered, and a current column past the new Cols follows it. Writes outside 0..Cols
+// are ignored; reads there fault.
+void tst_RdcGridA::columnArrays()
 {
     RdcGridA grid;
     grid.setCols(2);
     grid.setColumnWidth(2, 90);
     grid.setColumnAlignment(2, 3);
     grid.setText(0, 1, QStringLiteral("Depth"));
+    grid.setColumnWidth(3, 99);
+    grid.setColumnWidth(-1, 99);
+    grid.setColumnAlignment(3, 2);
+    QVERIFY_THROWS_EXCEPTION(StoreIndexError, grid.ColumnWidth(3));
+    QVERIFY_THROWS_EXCEPTION(StoreIndexError, grid.ColumnAlignment(3));
+    grid.setColumnWidth(0, 44);
+    QCOMPARE(grid.ColumnWidth(0), 44);
+    grid.setColumnAlignment(0, 3); // column 0's alignment is the row labels'
+    QCOMPARE(grid.RowLabelAlign(), qint16(3));
     grid.setCol(5);
     grid.setCols(4);
     QCOMPARE(grid.ColumnWidth(2), 90);
@@ -171,23 +110,9 @@ void tst_RdcGridA::colsResizesColumnArrays()
     QCOMPARE(grid.GetSelectionRange().leftCol, 1); // the anchor column follows
 }
 
-void tst_RdcGridA::columnWidthAndAlignment()
-{
-    RdcGridA grid;
-    grid.setCols(2);
-    grid.setColumnWidth(3, 99); // past Cols: ignored
-    grid.setColumnWidth(-1, 99);
-    QVERIFY_THROWS_EXCEPTION(StoreIndexError, grid.ColumnWidth(3));
-    grid.setColumnWidth(0, 44);
-    QCOMPARE(grid.ColumnWidth(0), 44);
-    grid.setColumnAlignment(0, 3);
-    QCOMPARE(grid.RowLabelAlign(), qint16(3));
-    QCOMPARE(grid.ColumnAlignment(0), qint16(3));
-    grid.setColumnAlignment(3, 2);
-    QVERIFY_THROWS_EXCEPTION(StoreIndexError, grid.ColumnAlignment(3));
-}
-
-void tst_RdcGridA::clearKeepsHeadersAndGoesHome()
+// More rows leave the cells their old size until Clear, as a project's load does it. Clear
+// keeps the headers, goes home and raises Change once.
+void tst_RdcGridA::rowsGrowUntilClear()
 {
     RdcGridA grid;
     grid.setCols(2);
@@ -199,16 +124,21 @@ void tst_RdcGridA::clearKeepsHeadersAndGoesHome()
     grid.MakeCellVisible(30, 2);
     grid.SetCurrentCell(30, 2);
     QVERIFY(grid.firstVisibleRow() > 1);
+    grid.setRows(50);
+    QVERIFY_THROWS_EXCEPTION(StoreIndexError, grid.setText(45, 1, QStringLiteral("x")));
+    QVERIFY_THROWS_EXCEPTION(StoreIndexError, grid.Text(45, 1));
+    QCOMPARE(grid.Text(45, 3), QString()); // columns are tested before the row is used
     grid.setChanged(false);
     QSignalSpy change(&grid, &RdcGridA::Change);
     grid.Clear();
     QCOMPARE(change.count(), 1);
-    QCOMPARE(grid.Changed(), true);
+    QVERIFY(grid.Changed());
     QCOMPARE(grid.Text(30, 2), QString());
     QCOMPARE(grid.Text(0, 1), QStringLiteral("Depth"));
     QCOMPARE(grid.firstVisibleRow(), 1);
-    QCOMPARE(grid.row(), 1);
-    QCOMPARE(grid.Col(), 1);
+    QCOMPARE(QPoint(grid.Col(), grid.row()), QPoint(1, 1));
+    grid.setText(45, 1, QStringLiteral("x"));
+    QCOMPARE(grid.Text(45, 1), QStringLiteral("x"));
 }
 
 void tst_RdcGridA::rowAndColAsymmetry()
@@ -217,22 +147,12 @@ void tst_RdcGridA::rowAndColAsymmetry()
     grid.setCols(3);
     grid.setRows(10);
     grid.SetCurrentCell(2, 2);
-    QCOMPARE(grid.row(), 2);
-    QCOMPARE(grid.Col(), 2);
-
     grid.setCol(3); // the column alone: the selection keeps its corners
     QCOMPARE(grid.Col(), 3);
-    RdcGridA::SelectionRange range = grid.GetSelectionRange();
-    QCOMPARE(range.leftCol, 2);
-    QCOMPARE(range.rightCol, 2);
-
+    QCOMPARE(selectionOf(&grid), range(2, 2, 2, 2));
     grid.setRow(5); // the row goes through SetCurrentCell with the stored column
-    range = grid.GetSelectionRange();
     QCOMPARE(grid.row(), 5);
-    QCOMPARE(range.topRow, 5);
-    QCOMPARE(range.bottomRow, 5);
-    QCOMPARE(range.leftCol, 3);
-    QCOMPARE(range.rightCol, 3);
+    QCOMPARE(selectionOf(&grid), range(5, 3, 5, 3));
 }
 
 // Each header of the rating-curve grid shows whole: its widest line fits with room inside the

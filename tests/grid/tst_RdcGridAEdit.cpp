@@ -8,89 +8,41 @@ class tst_RdcGridAEdit : public QObject
     Q_OBJECT
 
 private slots:
-    void keys_data();
     void keys();
     void pageKeys();
     void editing_data();
     void editing();
-    void editorPlacementAndCaret();
-    void editorUpDownMoveAfterCommit();
-    void focusLossCommits();
-    void copy_data();
-    void copy();
+    void commands_data();
+    void commands();
     void paste_data();
     void paste();
-    void refusals_data();
-    void refusals();
-    void cutAndDelete();
-    void mouseSelection_data();
-    void mouseSelection();
+    void clicks();
     void dragSelectsAndAutoScrolls();
-    void rightButtonAsksForMenu();
 };
 
-using Range = RdcGridA::SelectionRange;
-
-namespace {
-// A selection as a rectangle of (column, row) corners, which QCOMPARE prints.
-QRect range(int top, int left, int bottom, int right)
-{
-    return QRect(QPoint(left, top), QPoint(right, bottom));
-}
-
-QRect selectionOf(const RdcGridA *grid)
-{
-    const Range r = grid->GetSelectionRange();
-    return range(r.topRow, r.leftCol, r.bottomRow, r.rightCol);
-}
-} // namespace
-
-void tst_RdcGridAEdit::keys_data()
-{
-    QTest::addColumn<QPoint>("start"); // (column, row)
-    QTest::addColumn<int>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<QPoint>("current");
-    QTest::addColumn<QRect>("selection");
-
-    const Qt::KeyboardModifiers none = Qt::NoModifier, shift = Qt::ShiftModifier,
-                                ctrl = Qt::ControlModifier, ctrlShift = ctrl | shift;
-    QTest::newRow("Down") << QPoint(2, 2) << int(Qt::Key_Down) << none << QPoint(2, 3)
-                          << range(3, 2, 3, 2);
-    QTest::newRow("Shift+Down extends")
-            << QPoint(2, 2) << int(Qt::Key_Down) << shift << QPoint(2, 2) << range(2, 2, 3, 2);
-    QTest::newRow("Enter walks right")
-            << QPoint(2, 2) << int(Qt::Key_Return) << none << QPoint(3, 2) << range(2, 3, 2, 3);
-    QTest::newRow("Enter wraps to the next row")
-            << QPoint(3, 2) << int(Qt::Key_Enter) << none << QPoint(1, 3) << range(3, 1, 3, 1);
-    QTest::newRow("Ctrl+Shift+Home")
-            << QPoint(2, 4) << int(Qt::Key_Home) << ctrlShift << QPoint(2, 4) << range(1, 1, 4, 2);
-    QTest::newRow("End goes to the row's last column")
-            << QPoint(1, 4) << int(Qt::Key_End) << none << QPoint(3, 4) << range(4, 3, 4, 3);
-    // Data stands in (6, 1) and (2, 3): the last used row and column come from different cells.
-    QTest::newRow("Ctrl+End goes to the last used cell")
-            << QPoint(1, 1) << int(Qt::Key_End) << ctrl << QPoint(3, 6) << range(6, 3, 6, 3);
-    QTest::newRow("Ctrl+A selects everything")
-            << QPoint(2, 2) << int(Qt::Key_A) << ctrl << QPoint(2, 2) << range(1, 1, 10, 3);
-}
-
+// One key from a given current cell: where the current cell (column, row) and the selection go;
+// a moving key changes nothing and starts no edit. Data stands in (6, 1) and (2, 3): the last
+// used row and column come from different cells.
 void tst_RdcGridAEdit::keys()
 {
-    QFETCH(QPoint, start);
-    QFETCH(int, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    QFETCH(QPoint, current);
-    QFETCH(QRect, selection);
-    GridWindow w(10, 3, QSize(260, 260));
-    w.grid->setText(6, 1, QStringLiteral("x"));
-    w.grid->setText(2, 3, QStringLiteral("y"));
-    w.grid->SetCurrentCell(start.y(), start.x());
-    QSignalSpy change(w.grid, &RdcGridA::Change);
-    QTest::keyClick(w.pic(), Qt::Key(key), modifiers);
-    QCOMPARE(QPoint(w.grid->Col(), w.grid->row()), current);
-    QCOMPARE(selectionOf(w.grid), selection);
-    QCOMPARE(change.count(), 0);
-    QVERIFY(!w.grid->isEditing());
+    const auto press = [](int row, int col, const char *keys) {
+        GridWindow w(10, 3, QSize(260, 260));
+        w.grid->setText(6, 1, QStringLiteral("x"));
+        w.grid->setText(2, 3, QStringLiteral("y"));
+        w.grid->SetCurrentCell(row, col);
+        QSignalSpy change(w.grid, &RdcGridA::Change);
+        QTest::keySequence(w.pic(), QKeySequence(QString::fromLatin1(keys)));
+        const bool quiet = change.isEmpty() && !w.grid->isEditing();
+        return std::tuple(QPoint(w.grid->Col(), w.grid->row()), selectionOf(w.grid), quiet);
+    };
+    QCOMPARE(press(2, 2, "Down"), std::tuple(QPoint(2, 3), range(3, 2, 3, 2), true));
+    // Enter walks right, and at the row's end on to the next row.
+    QCOMPARE(press(2, 2, "Return"), std::tuple(QPoint(3, 2), range(2, 3, 2, 3), true));
+    QCOMPARE(press(2, 3, "Enter"), std::tuple(QPoint(1, 3), range(3, 1, 3, 1), true));
+    QCOMPARE(press(4, 2, "Ctrl+Shift+Home"), std::tuple(QPoint(2, 4), range(1, 1, 4, 2), true));
+    QCOMPARE(press(4, 1, "End"), std::tuple(QPoint(3, 4), range(4, 3, 4, 3), true));
+    QCOMPARE(press(1, 1, "Ctrl+End"), std::tuple(QPoint(3, 6), range(6, 3, 6, 3), true));
+    QCOMPARE(press(2, 2, "Ctrl+A"), std::tuple(QPoint(2, 2), range(1, 1, 10, 3), true));
 }
 
 void tst_RdcGridAEdit::pageKeys()
@@ -112,22 +64,33 @@ void tst_RdcGridAEdit::pageKeys()
     QCOMPARE(w.grid->IsCellVisible(2, 1), int(RdcGridA::FullyVisible));
 }
 
+// An edit of cell (2, 2), which holds " 1.2 ": how it starts, and how it ends. The editor opens
+// on the trimmed text with the caret at its end, so "F2, then 5" gives 1.25.
 void tst_RdcGridAEdit::editing_data()
 {
     QTest::addColumn<QString>("startKeys"); // typed on the surface; "F2" for the F2 key
     QTest::addColumn<QString>("typed"); // typed in the editor
-    QTest::addColumn<int>("endKey");
-    QTest::addColumn<QString>("expected");
+    QTest::addColumn<int>("endKey"); // 0: the focus moves to another control
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("row"); // the current row afterwards
     QTest::addColumn<int>("changes");
 
-    QTest::newRow("F2 keeps the text, Enter commits") << "F2"
-                                                      << "5" << int(Qt::Key_Return) << "1.25" << 2;
-    QTest::newRow("a typed digit replaces the text") << "7"
-                                                     << ".5" << int(Qt::Key_Return) << "7.5" << 2;
+    QTest::newRow("F2 keeps the text, Enter commits")
+            << "F2"
+            << "5" << int(Qt::Key_Return) << "1.25" << 2 << 2;
+    QTest::newRow("a typed digit replaces the text")
+            << "7"
+            << ".5" << int(Qt::Key_Return) << "7.5" << 2 << 2;
     QTest::newRow("blanks are trimmed on commit") << "F2"
-                                                  << "  " << int(Qt::Key_Return) << "1.2" << 2;
+                                                  << "  " << int(Qt::Key_Return) << "1.2" << 2 << 2;
     QTest::newRow("Escape stores nothing") << "9"
-                                           << "9" << int(Qt::Key_Escape) << " 1.2 " << 0;
+                                           << "9" << int(Qt::Key_Escape) << " 1.2 " << 2 << 0;
+    QTest::newRow("Down commits and moves down") << "3"
+                                                 << "" << int(Qt::Key_Down) << "3" << 3 << 2;
+    QTest::newRow("Up commits and moves up") << "4"
+                                             << "" << int(Qt::Key_Up) << "4" << 1 << 2;
+    QTest::newRow("losing the focus commits") << "1"
+                                              << "2" << 0 << "12" << 2 << 2;
 }
 
 void tst_RdcGridAEdit::editing()
@@ -135,9 +98,8 @@ void tst_RdcGridAEdit::editing()
     QFETCH(QString, startKeys);
     QFETCH(QString, typed);
     QFETCH(int, endKey);
-    QFETCH(QString, expected);
-    QFETCH(int, changes);
     GridWindow w(5, 2, QSize(200, 150));
+    QVERIFY(w.active);
     w.grid->setText(2, 2, QStringLiteral(" 1.2 "));
     w.click(2, 2);
     QSignalSpy change(w.grid, &RdcGridA::Change);
@@ -146,89 +108,95 @@ void tst_RdcGridAEdit::editing()
     else
         QTest::keyClicks(w.pic(), startKeys);
     QVERIFY(w.grid->isEditing());
-    QVERIFY(w.txt()->isVisible());
-    QTest::keyClicks(w.txt(), typed);
-    QTest::keyClick(w.txt(), Qt::Key(endKey));
-    QVERIFY(!w.grid->isEditing());
-    QVERIFY(!w.txt()->isVisible());
-    QCOMPARE(w.grid->Text(2, 2), expected);
-    QCOMPARE(change.count(), changes);
-    QCOMPARE(QPoint(w.grid->Col(), w.grid->row()), QPoint(2, 2)); // Enter stays on the cell
-}
-
-void tst_RdcGridAEdit::editorPlacementAndCaret()
-{
-    GridWindow w(5, 2, QSize(200, 150));
-    w.grid->setText(3, 1, QStringLiteral("  42  "));
-    w.grid->SetCurrentCell(3, 1);
-    QTest::keyClick(w.pic(), Qt::Key_F2);
-    const QRect cell = w.grid->cellRectangle(3, 1);
+    QVERIFY(w.txt()->hasFocus());
+    const QRect cell = w.grid->cellRectangle(2, 2); // the editor covers its cell, no more
     QVERIFY(w.txt()->geometry().contains(cell.adjusted(0, 0, -1, -1)));
     QVERIFY(w.txt()->geometry().width() <= cell.width() + 2);
-    QCOMPARE(w.txt()->text(), QStringLiteral("42"));
-    QCOMPARE(w.txt()->cursorPosition(), 2);
-    QVERIFY(!w.txt()->hasSelectedText());
-    QTest::keyClick(w.txt(), Qt::Key_Escape);
-}
-
-void tst_RdcGridAEdit::editorUpDownMoveAfterCommit()
-{
-    GridWindow w(5, 2, QSize(200, 150));
-    w.grid->SetCurrentCell(2, 1);
-    QSignalSpy change(w.grid, &RdcGridA::Change);
-    QTest::keyClicks(w.pic(), QStringLiteral("3"));
-    QTest::keyClick(w.txt(), Qt::Key_Down);
-    QCOMPARE(w.grid->Text(2, 1), QStringLiteral("3"));
-    QCOMPARE(w.grid->row(), 3);
-    QTest::keyClicks(w.pic(), QStringLiteral("4"));
-    QTest::keyClick(w.txt(), Qt::Key_Up);
-    QCOMPARE(w.grid->Text(3, 1), QStringLiteral("4"));
-    QCOMPARE(w.grid->row(), 2);
-    QCOMPARE(change.count(), 4);
-}
-
-void tst_RdcGridAEdit::focusLossCommits()
-{
-    GridWindow w(5, 2, QSize(200, 150));
-    QVERIFY(w.active);
-    w.click(1, 2);
-    QSignalSpy change(w.grid, &RdcGridA::Change);
-    QTest::keyClicks(w.pic(), QStringLiteral("1"));
-    QVERIFY(w.txt()->hasFocus());
-    QTest::keyClicks(w.txt(), QStringLiteral("2"));
-    w.other->setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(w.txt(), typed);
+    if (endKey != 0)
+        QTest::keyClick(w.txt(), Qt::Key(endKey));
+    else
+        w.other->setFocus(Qt::TabFocusReason);
     QVERIFY(!w.grid->isEditing());
-    QCOMPARE(w.grid->Text(1, 2), QStringLiteral("12"));
-    QCOMPARE(change.count(), 2);
-    QVERIFY(w.other->hasFocus()); // the focus stays where the user sent it
+    QVERIFY(!w.txt()->isVisible());
+    QTEST(w.grid->Text(2, 2), "text");
+    QTEST(w.grid->row(), "row");
+    QCOMPARE(w.grid->Col(), 2);
+    QTEST(int(change.count()), "changes");
+    QCOMPARE(w.other->hasFocus(), endKey == 0); // the focus stays where the user sent it
 }
 
-void tst_RdcGridAEdit::copy_data()
+// Copy, cut and Delete on a selection, and what a read-only or disabled grid refuses: no edit
+// starts, nothing is cut or pasted, no Change.
+void tst_RdcGridAEdit::commands_data()
 {
+    QTest::addColumn<QString>("state"); // "", "read-only" or "disabled"
+    QTest::addColumn<QKeySequence>("keys"); // none: the menu's Paste, as a disabled grid gets it
     QTest::addColumn<QRect>("selection");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("2 x 2") << range(1, 1, 2, 2) << "1\t2\r\n3\t4\r\n";
-    QTest::newRow("one cell") << range(2, 2, 2, 2) << "4\r\n";
-    QTest::newRow("blanks trimmed, empty cells kept") << range(3, 1, 4, 2) << "a b\t\r\n\t\r\n";
+    QTest::addColumn<QString>("clipboard"); // afterwards; it held "old"
+    QTest::addColumn<bool>("emptied"); // the selected cells are empty afterwards
+    QTest::addColumn<int>("changes");
+
+    const QKeySequence copy(Qt::CTRL | Qt::Key_C), cut(Qt::CTRL | Qt::Key_X),
+            paste(Qt::CTRL | Qt::Key_V);
+    const QRect square = range(1, 1, 2, 2), one = range(1, 1, 1, 1);
+    const QString copied = "1.1\t1.2\r\n2.1\t2.2\r\n";
+    QTest::newRow("copy") << "" << copy << square << copied << false << 0;
+    QTest::newRow("copy trims blanks, keeps empty cells")
+            << "" << copy << range(3, 1, 4, 2) << "a b\t\r\n4.1\t4.2\r\n"
+            << false << 0;
+    QTest::newRow("cut") << "" << cut << square << copied << true << 1;
+    QTest::newRow("Delete, even when read-only") << "read-only" << QKeySequence(Qt::Key_Delete)
+                                                 << range(3, 1, 4, 1) << "old" << true << 1;
+    QTest::newRow("read-only, cut") << "read-only" << cut << square << "old" << false << 0;
+    QTest::newRow("read-only, paste") << "read-only" << paste << one << "old" << false << 0;
+    QTest::newRow("read-only, F2")
+            << "read-only" << QKeySequence(Qt::Key_F2) << one << "old" << false << 0;
+    QTest::newRow("read-only, a digit")
+            << "read-only" << QKeySequence(Qt::Key_7) << one << "old" << false << 0;
+    QTest::newRow("disabled, paste") << "disabled" << QKeySequence() << one << "old" << false << 0;
 }
 
-void tst_RdcGridAEdit::copy()
+void tst_RdcGridAEdit::commands()
 {
+    QFETCH(QString, state);
+    QFETCH(QKeySequence, keys);
     QFETCH(QRect, selection);
-    QFETCH(QString, expected);
+    QFETCH(bool, emptied);
     GridWindow w(4, 2, QSize(200, 150));
-    w.grid->setText(1, 1, QStringLiteral("1"));
-    w.grid->setText(1, 2, QStringLiteral("2"));
-    w.grid->setText(2, 1, QStringLiteral("3"));
-    w.grid->setText(2, 2, QStringLiteral("4"));
+    for (int row = 1; row <= 4; ++row)
+        for (int col = 1; col <= 2; ++col)
+            w.grid->setText(row, col, QStringLiteral("%1.%2").arg(row).arg(col));
     w.grid->setText(3, 1, QStringLiteral("  a b "));
+    w.grid->setText(3, 2, QString());
     w.click(selection.top(), selection.left());
     w.click(selection.bottom(), selection.right(), Qt::ShiftModifier);
+    w.grid->setReadOnly(state == QLatin1String("read-only"));
+    w.grid->setEnabled(state != QLatin1String("disabled"));
+    w.grid->setChanged(false);
+    QStringList before;
+    for (int row = 1; row <= 4; ++row)
+        before << w.grid->Text(row, 1) << w.grid->Text(row, 2);
     QApplication::clipboard()->setText(QStringLiteral("old"));
-    QTest::keyClick(w.pic(), Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), expected);
+    QSignalSpy change(w.grid, &RdcGridA::Change);
+    if (keys.isEmpty())
+        w.grid->PasteSelection();
+    else
+        QTest::keySequence(w.pic(), keys);
+    QVERIFY(!w.grid->isEditing());
+    QTEST(QApplication::clipboard()->text(), "clipboard");
+    QTEST(int(change.count()), "changes");
+    QCOMPARE(w.grid->Changed(), emptied);
+    for (int row = 1; row <= 4; ++row) {
+        for (int col = 1; col <= 2; ++col) {
+            const QString old = before.takeFirst();
+            QCOMPARE(w.grid->Text(row, col),
+                     emptied && selection.contains(col, row) ? QString() : old);
+        }
+    }
 }
 
+// Every cell holds "old" before the paste.
 void tst_RdcGridAEdit::paste_data()
 {
     QTest::addColumn<QString>("clipboard");
@@ -236,21 +204,15 @@ void tst_RdcGridAEdit::paste_data()
     QTest::addColumn<QStringList>("cells"); // "row,col=text"
     QTest::addColumn<int>("changes");
 
-    QTest::newRow("blank and comma separate")
-            << "1.5 20\r\n3,40" << QPoint(1, 1)
-            << QStringList({ "1,1=1.5", "1,2=20", "2,1=3", "2,2=40" }) << 5;
-    QTest::newRow("tabs and CR LF, as copied")
-            << "1\t2\r\n3\t4\r\n"
-            << QPoint(1, 2) << QStringList({ "2,1=1", "2,2=2", "3,1=3", "3,2=4" }) << 5;
-    QTest::newRow("LF line ends") << "5\t6\n7\t8\n"
-                                  << QPoint(1, 1)
-                                  << QStringList({ "1,1=5", "1,2=6", "2,1=7", "2,2=8" }) << 5;
-    QTest::newRow("CR alone ends a line")
-            << "1\r2" << QPoint(2, 1) << QStringList({ "1,2=1", "2,2=2", "1,1=" }) << 3;
-    QTest::newRow("lines past the last row dropped")
-            << "a\r\nb\r\nc" << QPoint(1, 9) << QStringList({ "9,1=a", "10,1=b" }) << 3;
-    QTest::newRow("an empty line writes nothing")
-            << "1\r\n\r\n3" << QPoint(1, 1) << QStringList({ "1,1=1", "2,1=old", "3,1=3" }) << 3;
+    // Lines end at CR LF, LF or a lone CR; tabs, blanks and commas separate the cells.
+    QTest::newRow("as copied, and from other programs")
+            << "1\t2\r\n3 4\n5,6\r7" << QPoint(1, 1)
+            << QStringList(
+                       { "1,1=1", "1,2=2", "2,1=3", "2,2=4", "3,1=5", "3,2=6", "4,1=7", "4,2=old" })
+            << 8;
+    QTest::newRow("empty lines write nothing, lines past the last row are dropped")
+            << "a\r\n\r\nb\r\nc" << QPoint(2, 8)
+            << QStringList({ "8,2=a", "9,2=old", "10,2=b", "8,1=old" }) << 3;
 }
 
 void tst_RdcGridAEdit::paste()
@@ -258,18 +220,15 @@ void tst_RdcGridAEdit::paste()
     QFETCH(QString, clipboard);
     QFETCH(QPoint, target);
     QFETCH(QStringList, cells);
-    QFETCH(int, changes);
     GridWindow w(10, 2, QSize(200, 260));
     for (int row = 1; row <= 10; ++row)
-        w.grid->setText(row, 1, QStringLiteral("old"));
-    for (int row = 1; row <= 10; ++row)
-        w.grid->setText(row, 2, QString());
-    w.grid->setText(1, 1, QString());
+        for (int col = 1; col <= 2; ++col)
+            w.grid->setText(row, col, QStringLiteral("old"));
     w.grid->SetCurrentCell(target.y(), target.x());
     QApplication::clipboard()->setText(clipboard);
     QSignalSpy change(w.grid, &RdcGridA::Change);
     QTest::keyClick(w.pic(), Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(change.count(), changes);
+    QTEST(int(change.count()), "changes");
     for (const QString &cell : cells) {
         const int comma = cell.indexOf(','), equals = cell.indexOf('=');
         const int row = cell.left(comma).toInt();
@@ -278,101 +237,22 @@ void tst_RdcGridAEdit::paste()
     }
 }
 
-// A read-only or disabled grid keeps its cells: no edit starts, nothing is pasted or cut.
-void tst_RdcGridAEdit::refusals_data()
+// Clicks on the headers select whole columns or everything; a right click asks for the menu.
+// (A click and a shift+click on cells make the selections of the commands test.)
+void tst_RdcGridAEdit::clicks()
 {
-    QTest::addColumn<bool>("readOnly");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::newRow("read-only, F2") << true << int(Qt::Key_F2) << Qt::KeyboardModifiers();
-    QTest::newRow("read-only, a digit") << true << int(Qt::Key_7) << Qt::KeyboardModifiers();
-    QTest::newRow("read-only, paste")
-            << true << int(Qt::Key_V) << Qt::KeyboardModifiers(Qt::ControlModifier);
-    QTest::newRow("read-only, cut")
-            << true << int(Qt::Key_X) << Qt::KeyboardModifiers(Qt::ControlModifier);
-    QTest::newRow("disabled, paste")
-            << false << int(Qt::Key_V) << Qt::KeyboardModifiers(Qt::ControlModifier);
-}
-
-void tst_RdcGridAEdit::refusals()
-{
-    QFETCH(bool, readOnly);
-    QFETCH(int, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    GridWindow w(4, 2, QSize(200, 150));
-    w.grid->setText(1, 1, QStringLiteral("0"));
-    w.grid->SetCurrentCell(1, 1);
-    w.grid->setReadOnly(readOnly);
-    w.grid->setEnabled(readOnly);
-    QApplication::clipboard()->setText(QStringLiteral("1 2"));
-    QSignalSpy change(w.grid, &RdcGridA::Change);
-    QTest::keyClick(w.pic(), Qt::Key(key), modifiers);
-    if (!readOnly)
-        w.grid->PasteSelection(); // a disabled grid takes no keys; the menu calls this directly
-    QVERIFY(!w.grid->isEditing());
-    QCOMPARE(w.grid->Text(1, 1), QStringLiteral("0"));
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("1 2"));
-    QCOMPARE(change.count(), 0);
-}
-
-void tst_RdcGridAEdit::cutAndDelete()
-{
-    GridWindow w(4, 2, QSize(200, 150));
-    w.fill(4, 2);
-    w.click(1, 1);
-    w.click(2, 2, Qt::ShiftModifier);
-    QSignalSpy change(w.grid, &RdcGridA::Change);
-
-    QTest::keyClick(w.pic(), Qt::Key_X, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("1.1\t1.2\r\n2.1\t2.2\r\n"));
-    QCOMPARE(w.grid->Text(2, 2), QString());
-    QCOMPARE(w.grid->Text(3, 1), QStringLiteral("3.1"));
-    QCOMPARE(change.count(), 1);
-
-    // Delete empties the selection even on a read-only grid.
-    w.grid->setReadOnly(true);
-    w.grid->setChanged(false);
-    w.click(3, 1);
-    w.click(4, 1, Qt::ShiftModifier);
-    QTest::keyClick(w.pic(), Qt::Key_Delete);
-    QCOMPARE(w.grid->Text(3, 1), QString());
-    QCOMPARE(w.grid->Text(4, 1), QString());
-    QCOMPARE(w.grid->Text(4, 2), QStringLiteral("4.2"));
-    QCOMPARE(change.count(), 2);
-    QVERIFY(w.grid->Changed());
-}
-
-void tst_RdcGridAEdit::mouseSelection_data()
-{
-    QTest::addColumn<QPoint>("point"); // surface point; (-r, -c) stands for the centre of cell
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<QRect>("selection");
-    QTest::addColumn<QPoint>("current"); // (column, row)
-
-    QTest::newRow("corner selects all")
-            << QPoint(5, 5) << Qt::KeyboardModifiers() << range(1, 1, 6, 3) << QPoint(2, 2);
-    QTest::newRow("column header") << QPoint(30 + 65 + 30, 10) << Qt::KeyboardModifiers()
-                                   << range(1, 2, 6, 2) << QPoint(2, 1);
-    QTest::newRow("data cell") << QPoint(-5, -3) << Qt::KeyboardModifiers() << range(5, 3, 5, 3)
-                               << QPoint(3, 5);
-    QTest::newRow("shift+click extends")
-            << QPoint(-5, -3) << Qt::KeyboardModifiers(Qt::ShiftModifier) << range(2, 2, 5, 3)
-            << QPoint(2, 2);
-}
-
-void tst_RdcGridAEdit::mouseSelection()
-{
-    QFETCH(QPoint, point);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    QFETCH(QRect, selection);
-    QFETCH(QPoint, current);
     GridWindow w(6, 3, QSize(260, 170));
     w.grid->SetCurrentCell(2, 2);
-    if (point.x() < 0)
-        point = w.cellCentre(-point.x(), -point.y());
-    QTest::mouseClick(w.pic(), Qt::LeftButton, modifiers, point);
-    QCOMPARE(selectionOf(w.grid), selection);
-    QCOMPARE(QPoint(w.grid->Col(), w.grid->row()), current);
+    QSignalSpy menu(w.grid, &RdcGridA::RightMouseMenu);
+    QTest::mouseClick(w.pic(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5)); // the corner
+    QCOMPARE(selectionOf(w.grid), range(1, 1, 6, 3));
+    QCOMPARE(QPoint(w.grid->Col(), w.grid->row()), QPoint(2, 2));
+    QTest::mouseClick(w.pic(), Qt::LeftButton, Qt::NoModifier, QPoint(30 + 65 + 30, 10));
+    QCOMPARE(selectionOf(w.grid), range(1, 2, 6, 2));
+    QCOMPARE(QPoint(w.grid->Col(), w.grid->row()), QPoint(2, 1));
+    QCOMPARE(menu.count(), 0);
+    QTest::mouseClick(w.pic(), Qt::RightButton, Qt::NoModifier, w.cellCentre(2, 2));
+    QCOMPARE(menu.count(), 1);
 }
 
 void tst_RdcGridAEdit::dragSelectsAndAutoScrolls()
@@ -386,7 +266,6 @@ void tst_RdcGridAEdit::dragSelectsAndAutoScrolls()
     // Below the surface the timer takes over: each tick scrolls a row and follows with the end.
     QTest::mouseMove(w.pic(), QPoint(w.cellCentre(4, 2).x(), w.pic()->height() + 10));
     QVERIFY(w.timer1()->isActive());
-    QCOMPARE(w.timer1()->interval(), 50);
     const int first = w.grid->firstVisibleRow();
     QMetaObject::invokeMethod(w.timer1(), "timeout");
     QMetaObject::invokeMethod(w.timer1(), "timeout");
@@ -396,16 +275,6 @@ void tst_RdcGridAEdit::dragSelectsAndAutoScrolls()
                         QPoint(10, w.pic()->height() + 10));
     QVERIFY(!w.timer1()->isActive());
     QCOMPARE(QPoint(w.grid->Col(), w.grid->row()), QPoint(1, 2));
-}
-
-void tst_RdcGridAEdit::rightButtonAsksForMenu()
-{
-    GridWindow w(4, 2, QSize(200, 150));
-    QSignalSpy menu(w.grid, &RdcGridA::RightMouseMenu);
-    QTest::mouseClick(w.pic(), Qt::RightButton, Qt::NoModifier, w.cellCentre(2, 2));
-    QCOMPARE(menu.count(), 1);
-    QTest::mouseClick(w.pic(), Qt::LeftButton, Qt::NoModifier, w.cellCentre(2, 2));
-    QCOMPARE(menu.count(), 1);
 }
 
 QTEST_MAIN(tst_RdcGridAEdit)

@@ -10,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace {
 
 struct ScaleCase
@@ -25,7 +23,6 @@ struct ScaleCase
 const ScaleCase kScaleCases[] = {
     // Steps of 1, 2, 2.5 or 5 times a power of ten, the range widened to whole steps.
     { "section width 8.8 ft in 4", 0, 8.8, 4, 0, 10, 2.5, 1 },
-    { "depths to 0.93 ft in 5", 0, 0.93, 5, 0, 1, 0.2, 1 },
     { "water table below the bottom", -3.1, 0.9, 4, -4, 1, 1, 0 },
     { "flows to 0.55 cfs in 5", 0, 0.55, 5, 0, 0.6, 0.2, 1 },
     { "empty range widened", 2, 2, 4, 2, 3, 0.25, 2 },
@@ -65,8 +62,6 @@ TEST(SectionScale, FitsTheAreaWithARoundExaggeration)
         SCOPED_TRACE(row.name);
         const SectionScale scale = fitSection(row.extent, row.area);
         EXPECT_NEAR(scale.exaggeration(), row.exaggeration, 1e-9);
-        EXPECT_LE(scale.plot.width(), row.area.width() + 1e-9);
-        EXPECT_LE(scale.plot.height(), row.area.height() + 1e-9);
         EXPECT_TRUE(row.area.adjusted(-1e-9, -1e-9, 1e-9, 1e-9).contains(scale.plot));
         // The extent's corners land on the plot's corners, y upwards.
         const QPointF lowLeft = scale.map(QPointF(row.extent.left(), row.extent.top()));
@@ -168,8 +163,7 @@ TEST(RatingDrawing, InletCurveMeetsTheNormalDepthAtTheInletDischarge)
     SwaleInputData record = solvedChannel(8.4);
     record.SolutionMethod = 3;
     // The median ditch's inlet: depth in inches, discharge in cfs.
-    const double points[][2] = { { 0, 0 },    { 1, 0.29 }, { 2, 0.82 },  { 3, 1.5 }, { 4, 2.31 },
-                                 { 6, 4.24 }, { 8, 6.53 }, { 10, 9.13 }, { 12, 12 }, { 24, 30 } };
+    const double points[][2] = { { 0, 0 }, { 2, 0.82 }, { 6, 4.24 }, { 12, 12 }, { 24, 30 } };
     for (const auto &point : points)
         record.RatingCurve.Points.push_back({ point[0], point[1] });
     record.RatingCurve.PointCount = static_cast<int32_t>(record.RatingCurve.Points.size());
@@ -181,7 +175,7 @@ TEST(RatingDrawing, InletCurveMeetsTheNormalDepthAtTheInletDischarge)
     EXPECT_NEAR(*interpolate(r.inlet, record.NormalDepth), record.InletDischarge, 1e-12);
     // 24 in lies beyond 1.5 d: the curve is cut there, not squeezed into the plot.
     EXPECT_DOUBLE_EQ(r.inlet.last().x(), r.maxDepth);
-    EXPECT_DOUBLE_EQ(r.inlet[1].x(), 1.0 / 12);
+    EXPECT_DOUBLE_EQ(r.inlet[1].x(), 2.0 / 12);
 }
 
 } // namespace
