@@ -128,8 +128,7 @@ TEST(HydraulicChecks, MatchHandCalculation)
     r.PeakFlowRate = 14;
     r.FlowArea = 7;
     r.TopWidth = 10;
-    r.WettedPerimeter = 4 + 2 * std::sqrt(10.0);
-    r.HydraulicRadius = 7 / r.WettedPerimeter; // 0.677988 ft
+    r.HydraulicRadius = 7 / (4 + 2 * std::sqrt(10.0)); // 0.677988 ft
     r.MeanVelocity = 2;
     r.PermissibleVelocity = 4;
     r.ResultLength = 300;

@@ -21,17 +21,6 @@ SwaleProject curve(const std::string &rows)
 }
 } // namespace
 
-TEST(CountRatingCurveRows, StopsAtTheFirstWhollyBlankRow)
-{
-    EXPECT_EQ(CountRatingCurveRows(SwaleProject()), 0);
-    EXPECT_EQ(CountRatingCurveRows(curve("0;0|1;| ; |5;5")), 2);
-    EXPECT_EQ(CountRatingCurveRows(curve(";0")), 1);
-    SwaleProject full;
-    for (int r = 1; r <= kRatingCurveGridRows; ++r)
-        full.setRatingCurveCell(r, 1, "1");
-    EXPECT_EQ(CountRatingCurveRows(full), kRatingCurveGridRows);
-}
-
 TEST(ValidateRatingCurve, ReportsTheFirstFaultAndItsCell)
 {
     const struct
@@ -68,18 +57,25 @@ TEST(ValidateRatingCurve, ReportsTheFirstFaultAndItsCell)
     }
 }
 
-TEST(ValidateRatingCurve, FillsTheTable)
+// Rows with one cell blank count (see the fault table); the curve ends at a wholly blank row.
+TEST(ValidateRatingCurve, FillsTheTableUpToTheFirstWhollyBlankRow)
 {
     RatingCurveTable table;
     RatingCurveFault fault;
     // 1E-50 is zero in single precision; " 6 " and "1,5" read as 6 and 1.
-    ASSERT_TRUE(ValidateRatingCurve(curve("1E-50;0|0.5;0.25| 6 ;1,5"), table, fault))
+    ASSERT_TRUE(ValidateRatingCurve(curve("1E-50;0|0.5;0.25| 6 ;1,5| ; |7;5"), table, fault))
             << fault.message;
     ASSERT_EQ(table.PointCount, 3);
     EXPECT_EQ(table.Points[0].Depth, 1e-50);
     EXPECT_EQ(table.Points[1].Discharge, 0.25);
     EXPECT_EQ(table.Points[2].Depth, 6.0);
     EXPECT_EQ(table.Points[2].Discharge, 1.0);
+
+    EXPECT_EQ(CountRatingCurveRows(SwaleProject()), 0);
+    SwaleProject full;
+    for (int r = 1; r <= kRatingCurveGridRows; ++r)
+        full.setRatingCurveCell(r, 1, "1");
+    EXPECT_EQ(CountRatingCurveRows(full), kRatingCurveGridRows);
 }
 
 TEST(LookupRatingCurve, InterpolatesInInchesAndNeverExtrapolates)

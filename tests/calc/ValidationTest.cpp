@@ -95,24 +95,6 @@ TEST(ValidateInputData, AcceptsWhatTheChosenMethodsAllow)
     }
 }
 
-TEST(ValidateInputData, FillsTheRecordWithTheLeadingNumbers)
-{
-    SwaleProject p = validProject(2, 2);
-    p.inputText[4] = " 1,500 "; // recognised, and read as 1
-    p.inputText[17] = "  Bermuda grass  ";
-    p.inputText[15] = "2.5e1";
-    SwaleInputData data;
-    ValidationFault fault;
-    ASSERT_TRUE(ValidateInputData(p, data, fault)) << fault.message;
-    EXPECT_EQ(data.SolutionMethod, 2);
-    EXPECT_EQ(data.ChannelFlowMethod, 2);
-    EXPECT_EQ(data.ChannelLength, 1.0);
-    EXPECT_EQ(data.ChannelFlowRate, 25.0);
-    EXPECT_EQ(data.LiningType, "Bermuda grass");
-    EXPECT_EQ(data.DrainageArea, 0.0); // channel-flow method 1's boxes are not read
-    EXPECT_EQ(data.TreatmentEfficiency, 0.0); // only method 1 reads it
-}
-
 // The boxes in the program's order (the channel slope, box 8, before the storm duration, box
 // 13), then the rating curve, which only method 3 reads.
 TEST(ValidateInputData, ChecksInTheProgramsOrder)
