@@ -3,80 +3,50 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 namespace {
-SwaleProject curve(const std::vector<std::pair<std::string, std::string>> &rows)
+// A project whose rating curve holds `rows`: "depth;discharge" rows separated by "|".
+SwaleProject curve(const std::string &rows)
 {
+    std::vector<std::pair<std::string, std::string>> cells;
+    std::istringstream in(rows);
+    for (std::string row; std::getline(in, row, '|');) {
+        const size_t semicolon = row.find(';');
+        cells.emplace_back(row.substr(0, semicolon), row.substr(semicolon + 1));
+    }
     SwaleProject p;
-    setRatingCurve(p, rows);
+    setRatingCurve(p, cells);
     return p;
 }
 } // namespace
 
-TEST(CountRatingCurveRows, StopsAtTheFirstWhollyBlankRow)
-{
-    EXPECT_EQ(CountRatingCurveRows(SwaleProject()), 0);
-    EXPECT_EQ(
-            CountRatingCurveRows(curve({ { "0", "0" }, { "1", "" }, { " ", " " }, { "5", "5" } })),
-            2);
-    EXPECT_EQ(CountRatingCurveRows(curve({ { "", "0" } })), 1);
-    SwaleProject full;
-    for (int r = 1; r <= kRatingCurveGridRows; ++r)
-        full.setRatingCurveCell(r, 1, "1");
-    EXPECT_EQ(CountRatingCurveRows(full), kRatingCurveGridRows);
-}
-
 TEST(ValidateRatingCurve, ReportsTheFirstFaultAndItsCell)
 {
-    struct Case
+    const struct
     {
-        const char *name;
-        std::vector<std::pair<std::string, std::string>> rows;
-        const char *message;
+        const char *name, *rows;
         int row, col;
+        const char *message;
+    } cases[] = {
+        { "one row then a blank row", "0;0", 0, 0,
+          "There must be at least two lines of data in the rating curve." },
+        { "row 3 without discharge", "0;0|1;1|2;", 3, 2,
+          "Missing data.  (Rating curve:  Row 3, Col 2)" },
+        { "text in a depth", "0;0|one;1", 2, 1,
+          "Data is not numeric.  (Rating curve:  Row 2, Col 1)" },
+        { "first depth not zero", "0.5;0|1;1", 1, 1,
+          "Rating curve data must start at depth zero." },
+        { "tiny first discharge", "0;0.0001|1;1", 1, 2,
+          "Rating curve data must start with zero discharge." },
+        { "equal depths", "0;0|2;1|2;3", 3, 1,
+          "Data are out of order.  (Rating curve:  Row 3, Col 1)" },
+        { "equal discharges", "0;0|2;1|3;1", 3, 2,
+          "Dicharge rates must increase with depth.  (Rating curve:  Row 3, Col 2)" },
+        { "depth fault found before an earlier discharge fault", "0;0|1;0|3;2|2;4", 4, 1,
+          "Data are out of order.  (Rating curve:  Row 4, Col 1)" },
     };
-    const Case cases[] = {
-        { "one row then a blank row",
-          { { "0", "0" } },
-          "There must be at least two lines of data in the rating curve.",
-          0,
-          0 },
-        { "row 3 without discharge",
-          { { "0", "0" }, { "1", "1" }, { "2", "" } },
-          "Missing data.  (Rating curve:  Row 3, Col 2)",
-          3,
-          2 },
-        { "text in a depth",
-          { { "0", "0" }, { "one", "1" } },
-          "Data is not numeric.  (Rating curve:  Row 2, Col 1)",
-          2,
-          1 },
-        { "first depth not zero",
-          { { "0.5", "0" }, { "1", "1" } },
-          "Rating curve data must start at depth zero.",
-          1,
-          1 },
-        { "tiny first discharge",
-          { { "0", "0.0001" }, { "1", "1" } },
-          "Rating curve data must start with zero discharge.",
-          1,
-          2 },
-        { "equal depths",
-          { { "0", "0" }, { "2", "1" }, { "2", "3" } },
-          "Data are out of order.  (Rating curve:  Row 3, Col 1)",
-          3,
-          1 },
-        { "equal discharges",
-          { { "0", "0" }, { "2", "1" }, { "3", "1" } },
-          "Dicharge rates must increase with depth.  (Rating curve:  Row 3, Col 2)",
-          3,
-          2 },
-        { "depth fault found before an earlier discharge fault",
-          { { "0", "0" }, { "1", "0" }, { "3", "2" }, { "2", "4" } },
-          "Data are out of order.  (Rating curve:  Row 4, Col 1)",
-          4,
-          1 },
-    };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         SCOPED_TRACE(c.name);
         RatingCurveTable table;
         RatingCurveFault fault;
@@ -87,27 +57,32 @@ TEST(ValidateRatingCurve, ReportsTheFirstFaultAndItsCell)
     }
 }
 
-TEST(ValidateRatingCurve, FillsTheTable)
+// Rows with one cell blank count (see the fault table); the curve ends at a wholly blank row.
+TEST(ValidateRatingCurve, FillsTheTableUpToTheFirstWhollyBlankRow)
 {
     RatingCurveTable table;
     RatingCurveFault fault;
     // 1E-50 is zero in single precision; " 6 " and "1,5" read as 6 and 1.
-    ASSERT_TRUE(ValidateRatingCurve(
-            curve({ { "1E-50", "0" }, { "0.5", "0.25" }, { " 6 ", "1,5" } }), table, fault))
+    ASSERT_TRUE(ValidateRatingCurve(curve("1E-50;0|0.5;0.25| 6 ;1,5| ; |7;5"), table, fault))
             << fault.message;
     ASSERT_EQ(table.PointCount, 3);
     EXPECT_EQ(table.Points[0].Depth, 1e-50);
     EXPECT_EQ(table.Points[1].Discharge, 0.25);
     EXPECT_EQ(table.Points[2].Depth, 6.0);
     EXPECT_EQ(table.Points[2].Discharge, 1.0);
+
+    EXPECT_EQ(CountRatingCurveRows(SwaleProject()), 0);
+    SwaleProject full;
+    for (int r = 1; r <= kRatingCurveGridRows; ++r)
+        full.setRatingCurveCell(r, 1, "1");
+    EXPECT_EQ(CountRatingCurveRows(full), kRatingCurveGridRows);
 }
 
 TEST(LookupRatingCurve, InterpolatesInInchesAndNeverExtrapolates)
 {
     RatingCurveTable table;
     RatingCurveFault fault;
-    ASSERT_TRUE(ValidateRatingCurve(curve({ { "0", "0" }, { "6", "2" }, { "12", "8" } }), table,
-                                    fault));
+    ASSERT_TRUE(ValidateRatingCurve(curve("0;0|6;2|12;8"), table, fault));
     struct Case
     {
         double depthFt;

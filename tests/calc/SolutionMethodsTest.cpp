@@ -6,6 +6,9 @@
 
 #include <algorithm>
 
+// Every method stopping with the search's message when the search fails is the differential
+// test's (generated projects with search settings that stop early).
+//
 // Expected values come from an independent evaluation of the formulas at 30 digits (Manning's
 // equation solved by a secant search) for the fixture swale: B 4 ft, 3:1 sides, Sc 0.01,
 // n 0.03, A 2 ac, C 0.5, ID 3 in/hr (Qp 3 cfs), D 60 min, Tc 10 min, Kvu 2 ft/day, FSi 2,
@@ -28,15 +31,12 @@ SwaleInputData solved(const SwaleProject &project, bool (*method)(SwaleInputData
     EXPECT_TRUE(method(data, context)) << context.CalculationErrorMessage;
     return data;
 }
-
-constexpr double kDepth = 0.306334559101491; // ft, normal depth at 3 cfs
-constexpr double kRelative = 1e-8;
 } // namespace
 
 TEST(CalculateEfficiency, MatchesTheIndependentEvaluation)
 {
     const SwaleInputData data = solved(validProject(2), CalculateEfficiency);
-    EXPECT_NEAR(data.NormalDepth, kDepth, kDepth * kRelative);
+    EXPECT_NEAR(data.NormalDepth, 0.306334559101491, 3e-9); // ft, at 3 cfs
     EXPECT_NEAR(data.TopWidth, 5.83800735460895, 1e-7);
     EXPECT_NEAR(data.ErosionSafetyFactor, 2.51143470451, 1e-8);
     EXPECT_DOUBLE_EQ(data.DesignInfiltrationRate, 1.0);
@@ -50,19 +50,18 @@ TEST(CalculateEfficiency, MatchesTheIndependentEvaluation)
 
 TEST(CalculateEfficiency, LimitsByPeakOrSoilStorageWithoutCapping)
 {
-    struct Case
+    const struct
     {
         const char *name;
         const char *L, *Kvu, *hb, *D, *Tc;
         bool above100;
-    };
-    const Case cases[] = {
+    } cases[] = {
         { "soil takes the whole peak: Vm = Vr", "400", "2000", "3", "60", "10", false },
         { "soil storage limits: e = Vs / Vr", "400", "2000", "0.01", "60", "10", false },
         // q below Qp on a hydrograph whose ramps outlast the storm
         { "short storm, long Tc: above 100 percent", "400", "30", "30", "5", "60", true },
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         SCOPED_TRACE(c.name);
         SwaleProject p = validProject(2);
         p.inputText[4] = c.L;
@@ -71,16 +70,12 @@ TEST(CalculateEfficiency, LimitsByPeakOrSoilStorageWithoutCapping)
         p.inputText[13] = c.D;
         p.inputText[14] = c.Tc;
         const SwaleInputData data = solved(p, CalculateEfficiency);
-        const double Vr = data.RunoffVolume;
         if (data.InfiltrationAtNormalDepth > data.PeakFlowRate) {
-            EXPECT_EQ(data.MaxInfiltrationVolume, Vr);
+            EXPECT_EQ(data.MaxInfiltrationVolume, data.RunoffVolume);
         }
         const double limiting = std::min(data.SoilStorageVolume, data.MaxInfiltrationVolume);
-        EXPECT_NEAR(data.ResultEfficiency, limiting / Vr * 100, 1e-9);
-        if (c.above100) {
-            EXPECT_LE(data.InfiltrationAtNormalDepth, data.PeakFlowRate);
-            EXPECT_GT(data.ResultEfficiency, 100.0);
-        }
+        EXPECT_NEAR(data.ResultEfficiency, limiting / data.RunoffVolume * 100, 1e-9);
+        EXPECT_TRUE(!c.above100 || data.ResultEfficiency > 100.0) << data.ResultEfficiency;
     }
 }
 
@@ -98,26 +93,24 @@ TEST(CalculateRequiredLength, MatchesTheIndependentEvaluation)
     EXPECT_DOUBLE_EQ(data.RunoffDepth, 1.5);
 }
 
-TEST(CalculateRequiredLength, UnderGivenFlowDividesVolumeByDuration)
+TEST(CalculateRequiredLength, UnderGivenFlowTheAreaOrTheSoilStorageSetsTheLength)
 {
     // Qp 4 cfs for 30 min: Vr 7200 ft3, Vm 5760 ft3, Qip = 5760 / 1800 = 3.2 cfs.
-    const SwaleInputData data = solved(validProject(1, 2), CalculateRequiredLength);
+    SwaleProject p = validProject(1, 2);
+    const SwaleInputData data = solved(p, CalculateRequiredLength);
     EXPECT_NEAR(data.NormalDepth, 0.360409589943, 1e-9);
     EXPECT_DOUBLE_EQ(data.InfiltrationAtNormalDepth, 3.2);
     EXPECT_NEAR(data.ResultLength, 44029.4712812, 1e-4);
     EXPECT_EQ(data.RunoffDepth, 0.0);
     EXPECT_EQ(data.LargerRoot, 0.0); // no roots under a given flow
-}
 
-TEST(CalculateRequiredLength, SoilStorageGovernsWhenTheWaterTableIsNear)
-{
-    SwaleProject p = validProject(1, 2);
-    p.inputText[20] = "500"; // fast soil: little area needed
-    p.inputText[23] = "0.05"; // but a shallow water table
-    const SwaleInputData data = solved(p, CalculateRequiredLength);
-    const double L2 = data.MaxInfiltrationVolume / (0.05 * data.TopWidth * 35 / 100);
-    EXPECT_NEAR(data.ResultLength, L2, 1e-9 * L2);
-    EXPECT_NEAR(data.SoilStorageVolume, data.MaxInfiltrationVolume, 1e-6);
+    // Fast soil needs little area, but a shallow water table: soil storage sets the length.
+    p.inputText[20] = "500";
+    p.inputText[23] = "0.05";
+    const SwaleInputData near = solved(p, CalculateRequiredLength);
+    const double L2 = near.MaxInfiltrationVolume / (0.05 * near.TopWidth * 35 / 100);
+    EXPECT_NEAR(near.ResultLength, L2, 1e-9 * L2);
+    EXPECT_NEAR(near.SoilStorageVolume, near.MaxInfiltrationVolume, 1e-6);
 }
 
 TEST(CalculateRequiredLength, ANegativeDiscriminantIsAnArithmeticFault)
@@ -151,59 +144,4 @@ TEST(CalculateInletChannel, UsesTheClippedHydrographEvenAboveThePeak)
     const double q = data.InletDischarge;
     EXPECT_GT(q, data.PeakFlowRate);
     EXPECT_NEAR(data.InletVolume, q * (70 - q * 10 / 3) * 60, 1e-6);
-}
-
-TEST(CalculateInletChannel, FailsWithItsOwnMessageBeyondTheCurve)
-{
-    SwaleProject p = validProject(3);
-    p.clearRatingCurve();
-    setRatingCurve(p, { { "0", "0" }, { "2", "0.5" } }); // 2 in, the depth is 3.7 in
-    SwaleInputData data = validated(p);
-    CalcContext context;
-    EXPECT_FALSE(CalculateInletChannel(data, context));
-    ASSERT_EQ(context.shownMessages.size(), 1u);
-    // The depth is printed with fifteen digits, as the search found it.
-    const std::string &message = context.shownMessages[0];
-    const std::string head = "The normal depth of flow (";
-    const std::string tail = " ft) exceeds the rating curve data.";
-    ASSERT_EQ(message.substr(0, head.size()), head);
-    ASSERT_EQ(message.substr(message.size() - tail.size()), tail);
-    const std::string depth
-            = message.substr(head.size(), message.size() - head.size() - tail.size());
-    EXPECT_EQ(depth.size(), 17u); // "0." and fifteen significant digits
-    EXPECT_NEAR(std::stod(depth), kDepth, kDepth * kRelative);
-    EXPECT_EQ(context.CalculationErrorMessage, "");
-}
-
-TEST(CalculateImperviousChannel, ReportsHydraulicsOnly)
-{
-    SwaleInputData data = validated(validProject(4, 2));
-    data.DesignInfiltrationRate = 9; // whatever was there is set to zero
-    CalcContext context;
-    ASSERT_TRUE(CalculateImperviousChannel(data, context));
-    EXPECT_NEAR(data.NormalDepth, 0.360409589943, 1e-9);
-    EXPECT_EQ(data.RunoffDepth, 0.0);
-    for (double v :
-         { data.DesignInfiltrationRate, data.EffectiveBottomArea, data.InfiltrationAtNormalDepth,
-           data.MaxInfiltrationVolume, data.SoilStorageVolume, data.ResultEfficiency })
-        EXPECT_EQ(v, 0.0);
-}
-
-TEST(SolutionMethods, StopWhenTheSearchFails)
-{
-    for (int method = 1; method <= 4; ++method) {
-        SCOPED_TRACE(method);
-        SwaleInputData data = validated(validProject(method));
-        CalcContext context;
-        context.settings.NormalDepthMaxIterations = 3;
-        EXPECT_FALSE(runSolutionMethod(data, context));
-        EXPECT_EQ(context.CalculationErrorMessage,
-                  "Unable to find Normal Depth of Flow at tolerance of 1E-07 and Maximum "
-                  "Iterations of 3");
-        EXPECT_EQ(data.ResultLength, 0.0);
-        EXPECT_EQ(data.ResultEfficiency, 0.0);
-    }
-    SwaleInputData none;
-    CalcContext context;
-    EXPECT_FALSE(runSolutionMethod(none, context));
 }

@@ -20,13 +20,7 @@ std::vector<CheckLine> checkLinesOf(const CalculationOutcome &outcome)
 SweepAxis axis(const char *symbol, double from, double to, int points,
                Spacing spacing = Spacing::Linear)
 {
-    SweepAxis a;
-    a.box = inputBoxOfSymbol(symbol);
-    a.from = from;
-    a.to = to;
-    a.points = points;
-    a.spacing = spacing;
-    return a;
+    return SweepAxis { inputBoxOfSymbol(symbol), from, to, points, spacing };
 }
 
 // A sweep whose values, typed as an engineer would type them, are known: every row must be
@@ -54,6 +48,9 @@ const TypedSweepCase kTypedCases[] = {
 
 TEST(Sweep, EveryRowIsTheCalculationOfTheTypedValue)
 {
+    // By CalculationOutcome::Status: Ok, Invalid, Failed.
+    const PointStatus kPointStatusOf[]
+            = { PointStatus::Ok, PointStatus::Invalid, PointStatus::Failed };
     for (const TypedSweepCase &row : kTypedCases) {
         SCOPED_TRACE(row.name);
         const SwaleProject project = validProject(row.method, row.flow);
@@ -68,12 +65,7 @@ TEST(Sweep, EveryRowIsTheCalculationOfTheTypedValue)
             typed.inputText[static_cast<size_t>(a.box)] = row.typed[i];
             const CalculationOutcome expected = Calculate(typed);
             const SweepRow &point = sweep.rows[i];
-            EXPECT_STREQ(statusName(point.status),
-                         statusName(expected.status == CalculationOutcome::Status::Ok
-                                            ? PointStatus::Ok
-                                            : expected.status == CalculationOutcome::Status::Invalid
-                                            ? PointStatus::Invalid
-                                            : PointStatus::Failed));
+            EXPECT_EQ(point.status, kPointStatusOf[static_cast<int>(expected.status)]);
             EXPECT_EQ(point.message, outcomeMessage(expected));
             if (point.status != PointStatus::Ok) {
                 EXPECT_TRUE(point.results.empty());
@@ -111,6 +103,8 @@ TEST(Sweep, AxesEndExactlyOnTheirRangeAndLogSpacingIsGeometric)
     EXPECT_NEAR(axisValue(log, 2), 100, 1e-12);
 }
 
+// Unknown symbols, an input of the other channel flow, too many points and an empty range are
+// swale-calc's rows (tests/cli/SweepCommandTest.cpp).
 TEST(Sweep, RefusesAxesItCannotSweep)
 {
     const SwaleProject method4 = validProject(4, 1);
@@ -120,10 +114,7 @@ TEST(Sweep, RefusesAxesItCannotSweep)
         std::vector<SweepAxis> axes;
     } cases[] = {
         { "input the method does not use", { axis("Kvu", 1, 2, 3) } },
-        { "input of the other channel flow", { axis("Qp", 1, 2, 3) } },
         { "one point", { axis("B", 1, 2, 1) } },
-        { "too many points", { axis("B", 1, 2, kMaxSweepPoints + 1) } },
-        { "empty range", { axis("B", 2, 2, 3) } },
         { "log through zero", { axis("B", 0, 2, 3, Spacing::Logarithmic) } },
         { "infinite end", { axis("B", 1, std::numeric_limits<double>::infinity(), 3) } },
         { "same input twice", { axis("B", 1, 2, 3), axis("B", 1, 2, 3) } },
@@ -158,15 +149,12 @@ TEST(Sweep, CancelStopsWithoutPartialRows)
     EXPECT_FALSE(sweep.complete);
     ASSERT_GT(reported, 0u);
     ASSERT_LT(reported, sweep.rows.size());
+    // The points done before the cancel are whole; the others were not run at all.
     for (size_t i = 0; i < sweep.rows.size(); ++i) {
         const SweepRow &row = sweep.rows[i];
-        if (i < reported) {
-            ASSERT_EQ(row.status, PointStatus::Ok) << i;
-            ASSERT_EQ(row.results.size(), sweep.columns.size()) << i;
-        } else {
-            ASSERT_EQ(row.status, PointStatus::NotRun) << i;
-            ASSERT_TRUE(row.results.empty() && row.message.empty()) << i;
-        }
+        ASSERT_EQ(row.status, i < reported ? PointStatus::Ok : PointStatus::NotRun) << i;
+        ASSERT_EQ(row.results.size(), i < reported ? sweep.columns.size() : 0u) << i;
+        ASSERT_EQ(row.message, "") << i;
     }
     const std::string csv = sweepCsv(sweep, CsvHeader::Symbols);
     EXPECT_EQ(static_cast<size_t>(std::count(csv.begin(), csv.end(), '\n')), reported + 1);
@@ -183,7 +171,8 @@ TEST(SolveForTarget, FindsTheInputThatMeetsTheTarget)
         SweepAxis vary;
     } cases[] = {
         { "bottom width for a required length", 1, "L", 20000, axis("B", 1, 20, 0) },
-        { "slope for an erosion safety factor of 1", 4, "FSe", 1, axis("Sc", 0.001, 0.2, 50) },
+        { "slope for an erosion safety factor below 1", 4, "FSe", 0.95,
+          axis("Sc", 0.001, 0.2, 50) },
         { "length for an efficiency", 2, "e", 3, axis("L", 10, 2000, 0, Spacing::Logarithmic) },
         { "flow for a normal depth", 3, "d", 0.5, axis("Qp", 0.1, 100, 0) },
     };
@@ -215,7 +204,8 @@ TEST(SolveForTarget, SaysSoWhenTheRangeCannotReachIt)
     EXPECT_NE(outcome.message.find("not reached"), std::string::npos) << outcome.message;
 }
 
-TEST(SweepCsv, QuotesCaptionsAndMessagesThatNeedIt)
+// The captions' header is the design explorer's export test, the symbols' header swale-calc's.
+TEST(SweepCsv, QuotesFieldsThatNeedItAndLeavesAFailedPointsResultsEmpty)
 {
     EXPECT_EQ(csvField("plain"), "plain");
     EXPECT_EQ(csvField("Bottom width of channel, [B] (ft)"),
@@ -224,13 +214,6 @@ TEST(SweepCsv, QuotesCaptionsAndMessagesThatNeedIt)
     EXPECT_EQ(csvField("two\nlines"), "\"two\nlines\"");
 
     const SweepResult sweep = runSweep(validProject(2), { axis("L", -1, 100, 2) });
-    const std::string captions = sweepCsvHeader(sweep, CsvHeader::Captions);
-    EXPECT_EQ(
-            captions.rfind("\"Swale length, [L] (ft)\",status,\"Length of channel, [L] (ft)\",", 0),
-            0u)
-            << captions;
-    EXPECT_EQ(sweepCsvHeader(sweep, CsvHeader::Symbols).rfind("L,status,L_result,e,FSe,Qp,", 0),
-              0u);
     EXPECT_EQ(sweepCsvRow(sweep, sweep.rows[0]),
               "-1,invalid,,,,,,,,,,,,,,,,,,,,,,,,,,,,,Channel length must be greater than zero.\n");
 }

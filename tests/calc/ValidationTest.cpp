@@ -4,21 +4,22 @@
 #include <gtest/gtest.h>
 
 namespace {
+// One row per message: the box changed (0 for none), its text, and the box given the focus.
 struct FaultCase
 {
     const char *name;
     int solutionMethod;
     int channelFlowMethod;
-    int box; // box to change; 0 for none
+    int box;
     const char *text;
     const char *message;
     int focusBox; // 0: no box gets the focus
 };
 
 const FaultCase kFaultCases[] = {
-    { "no solution method", 0, 0, 0, "",
+    { "solution method beyond the options", 5, 1, 0, "",
       "Solution method has not been chosen.  Choose analysis type.", 0 },
-    { "no channel-flow method, method 4", 4, 0, 0, "",
+    { "channel-flow method beyond the options", 4, 3, 0, "",
       "Channel flow rate method has not been chosen.", 0 },
     { "blank length, method 2", 2, 1, 4, "   ", "Missing data.", 4 },
     { "negative length, method 2", 2, 1, 4, "-1", "Channel length must be greater than zero.", 4 },
@@ -43,9 +44,7 @@ TEST(ValidateInputData, ReportsTheFirstFaultWithItsMessageAndBox)
 {
     for (const FaultCase &c : kFaultCases) {
         SCOPED_TRACE(c.name);
-        SwaleProject p
-                = validProject(c.solutionMethod == 0 ? 1 : c.solutionMethod, c.channelFlowMethod);
-        p.solutionMethod = c.solutionMethod;
+        SwaleProject p = validProject(c.solutionMethod, c.channelFlowMethod);
         if (c.box)
             p.inputText[static_cast<size_t>(c.box)] = c.text;
         SwaleInputData data;
@@ -57,86 +56,48 @@ TEST(ValidateInputData, ReportsTheFirstFaultWithItsMessageAndBox)
     }
 }
 
-TEST(ValidateInputData, SkipsTheBoxesTheChosenMethodsDoNotNeed)
+TEST(ValidateInputData, AcceptsWhatTheChosenMethodsAllow)
 {
     struct Case
     {
         const char *name;
         int method;
         int flow;
-        std::vector<int> blankBoxes;
+        std::vector<std::pair<int, const char *>> boxes; // box and its text
     };
     const Case cases[] = {
-        { "length and flow rate with method 1", 1, 1, { 4, 15, 16 } },
-        { "efficiency with method 2", 2, 1, { 9 } },
-        { "efficiency and soil with method 3", 3, 1, { 4, 9, 20, 21, 22, 23 } },
-        { "hydrograph with given flow, method 4", 4, 2, { 4, 9, 10, 11, 12, 13, 14, 20, 23 } },
-        { "job, engineer, date and lining", 4, 1, { 1, 2, 3, 17 } },
+        // Boxes the chosen methods do not read may stay blank.
+        { "length and flow rate with method 1", 1, 1, { { 4, "" }, { 15, "" }, { 16, "" } } },
+        { "efficiency with method 2", 2, 1, { { 9, "" } } },
+        { "efficiency and soil with method 3",
+          3,
+          1,
+          { { 4, "" }, { 9, "" }, { 20, "" }, { 21, "" }, { 22, "" }, { 23, "" } } },
+        { "hydrograph with given flow, method 4",
+          4,
+          2,
+          { { 9, "" }, { 10, "" }, { 11, "" }, { 12, "" }, { 13, "" }, { 14, "" }, { 23, "" } } },
+        { "job, engineer, date and lining", 4, 1, { { 1, "" }, { 2, "" }, { 3, "" }, { 17, "" } } },
+        // Bottom width and roughness compare in single precision, where -1E-50 is zero; a strictly
+        // positive box compares in double precision, where 1E-50 is above zero.
+        { "zero bottom width and roughness", 4, 1, { { 5, "0.0" }, { 19, "0" } } },
+        { "tiny negative bottom width and roughness", 4, 1, { { 5, "-1e-50" }, { 19, "-1e-50" } } },
+        { "tiny left slope", 4, 1, { { 6, "1e-50" } } },
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         SwaleProject p = validProject(c.method, c.flow);
-        for (int box : c.blankBoxes)
-            p.inputText[static_cast<size_t>(box)] = "";
+        for (const auto &[box, text] : c.boxes)
+            p.inputText[static_cast<size_t>(box)] = text;
         SwaleInputData data;
         ValidationFault fault;
         EXPECT_TRUE(ValidateInputData(p, data, fault)) << fault.message;
     }
 }
 
+// The boxes in the program's order (the channel slope, box 8, before the storm duration, box
+// 13), then the rating curve, which only method 3 reads.
 TEST(ValidateInputData, ChecksInTheProgramsOrder)
-{
-    // Both boxes 13 and 8 are wrong: the channel slope comes first.
-    SwaleProject p = validProject(1);
-    p.inputText[13] = "x";
-    p.inputText[8] = "-1";
-    SwaleInputData data;
-    ValidationFault fault;
-    ASSERT_FALSE(ValidateInputData(p, data, fault));
-    EXPECT_EQ(fault.input, 8);
-}
-
-TEST(ValidateInputData, AcceptsZeroBottomWidthAndRoughnessInSinglePrecision)
-{
-    for (const char *text : { "0", "-1e-50", "0.0" }) {
-        SCOPED_TRACE(text);
-        SwaleProject p = validProject(4);
-        p.inputText[5] = text;
-        p.inputText[19] = text;
-        SwaleInputData data;
-        ValidationFault fault;
-        EXPECT_TRUE(ValidateInputData(p, data, fault)) << fault.message;
-    }
-    // A strictly positive box compares in double precision: 1e-50 is above zero.
-    SwaleProject p = validProject(4);
-    p.inputText[6] = "1e-50";
-    SwaleInputData data;
-    ValidationFault fault;
-    EXPECT_TRUE(ValidateInputData(p, data, fault));
-    EXPECT_EQ(data.LeftSideSlope, 1e-50);
-}
-
-TEST(ValidateInputData, FillsTheRecordWithTheLeadingNumbers)
-{
-    SwaleProject p = validProject(2, 2);
-    p.inputText[4] = " 1,500 "; // recognised, and read as 1
-    p.inputText[17] = "  Bermuda grass  ";
-    p.inputText[15] = "2.5e1";
-    SwaleInputData data;
-    ValidationFault fault;
-    ASSERT_TRUE(ValidateInputData(p, data, fault)) << fault.message;
-    EXPECT_EQ(data.SolutionMethod, 2);
-    EXPECT_EQ(data.ChannelFlowMethod, 2);
-    EXPECT_EQ(data.ChannelLength, 1.0);
-    EXPECT_EQ(data.ChannelFlowRate, 25.0);
-    EXPECT_EQ(data.LiningType, "Bermuda grass");
-    EXPECT_EQ(data.BottomWidth, 4.0);
-    EXPECT_EQ(data.SoilPorosity, 35.0);
-    EXPECT_EQ(data.DrainageArea, 0.0); // channel-flow method 1's boxes are not read
-    EXPECT_EQ(data.TreatmentEfficiency, 0.0); // only method 1 reads it
-}
-
-TEST(ValidateInputData, ChecksTheRatingCurveLastAndOnlyForMethod3)
 {
     SwaleProject p = validProject(3);
     p.setRatingCurveCell(2, 2, "");
@@ -148,22 +109,12 @@ TEST(ValidateInputData, ChecksTheRatingCurveLastAndOnlyForMethod3)
     EXPECT_EQ(fault.row, 2);
     EXPECT_EQ(fault.col, 2);
 
-    p.inputText[19] = "abc"; // an input box fault comes before the curve
+    p.inputText[13] = "x";
+    p.inputText[8] = "-1";
     ASSERT_FALSE(ValidateInputData(p, data, fault));
-    EXPECT_EQ(fault.input, 19);
+    EXPECT_EQ(fault.input, 8);
 
     p = validProject(4);
     p.clearRatingCurve();
     EXPECT_TRUE(ValidateInputData(p, data, fault));
-}
-
-TEST(GetSolutionMethod, GivesZeroOutsideTheOptions)
-{
-    SwaleProject p;
-    for (int m : { -1, 0, 3, 5 }) {
-        p.solutionMethod = m;
-        p.channelFlowMethod = m;
-        EXPECT_EQ(GetSolutionMethod(p), m == 3 ? 3 : 0);
-        EXPECT_EQ(GetChannelFlowOption(p), 0);
-    }
 }
