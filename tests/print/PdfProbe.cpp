@@ -3,23 +3,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 
-QString simplifiedText(const QString &text)
-{
-    return text.simplified();
-}
-
-namespace {
-QString unescapeHtml(QString text)
-{
-    text.replace(QStringLiteral("&lt;"), QStringLiteral("<"));
-    text.replace(QStringLiteral("&gt;"), QStringLiteral(">"));
-    text.replace(QStringLiteral("&quot;"), QStringLiteral("\""));
-    text.replace(QStringLiteral("&#39;"), QStringLiteral("'"));
-    text.replace(QStringLiteral("&amp;"), QStringLiteral("&"));
-    return text;
-}
-} // namespace
-
 PdfProbe::PdfProbe(const QString &pdfPath)
 {
     QString html;
@@ -42,18 +25,16 @@ PdfProbe::PdfProbe(const QString &pdfPath)
         }
         PdfWord word;
         word.page = pageCount();
-        const double x0 = match.captured(3).toDouble();
-        const double y0 = match.captured(4).toDouble();
-        word.box = QRectF(QPointF(x0, y0),
+        word.box = QRectF(QPointF(match.captured(3).toDouble(), match.captured(4).toDouble()),
                           QPointF(match.captured(5).toDouble(), match.captured(6).toDouble()));
-        word.text = unescapeHtml(match.captured(7));
+        word.text = match.captured(7);
         m_words.push_back(word);
     }
     QString text; // pdftotext ends each page with a form feed
     if (!runPdftotext({ QStringLiteral("-layout"), pdfPath, QStringLiteral("-") }, text))
         return;
     for (const QString &page : text.split(QLatin1Char('\f')).mid(0, pageCount()))
-        m_pageTexts.append(simplifiedText(page));
+        m_pageTexts.append(page.simplified());
     m_valid = pageCount() > 0;
     if (!m_valid)
         m_error = QStringLiteral("no pages in ") + pdfPath;

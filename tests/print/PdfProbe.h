@@ -12,7 +12,7 @@ struct PdfWord
 {
     int page = 0; // from 1
     QRectF box; // points from the sheet's top left corner
-    QString text;
+    QString text; // as pdftotext's bounding-box output writes it, with HTML escapes
 };
 
 struct PdfPageSize
@@ -46,6 +46,3 @@ private:
     std::vector<PdfWord> m_words;
     QStringList m_pageTexts;
 };
-
-// Collapses blanks and line ends to single blanks.
-QString simplifiedText(const QString &text);
