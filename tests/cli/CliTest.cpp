@@ -4,9 +4,11 @@
 #include "Fixtures.h"
 #include "JsonOutput.h"
 #include "ProjectFile.h"
+#include "TextReport.h"
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -30,15 +32,9 @@ protected:
     int m_saved = 0;
 };
 
-bool endsWith(const std::string &text, const std::string &end)
-{
-    return text.size() >= end.size()
-            && text.compare(text.size() - end.size(), end.size(), end) == 0;
-}
-
-// Every way the program ends, for each of its commands: its exit code and the start (and end)
-// of its standard output. Usage errors and messages outside --json go to standard error; results
-// of each method are the golden tests'.
+// Every way the program ends, for each of its commands: its exit code, the start of its standard
+// output and a later part of it. Usage errors and messages outside --json go to standard error;
+// results of each method are the golden tests'.
 TEST_F(SwaleCalcTest, ExitCodesAndOutputs)
 {
     const std::string good = saved();
@@ -50,7 +46,7 @@ TEST_F(SwaleCalcTest, ExitCodesAndOutputs)
         std::vector<std::string> arguments;
         int exitCode;
         const char *out;
-        const char *outEnd = nullptr;
+        const char *outLater = nullptr;
     };
     const Case cases[] = {
         { "unknown option", { "--frobnicate", good }, ExitUsage, "" },
@@ -119,8 +115,8 @@ TEST_F(SwaleCalcTest, ExitCodesAndOutputs)
         const CalcRun run = runCalc(row.arguments);
         EXPECT_EQ(run.exitCode, row.exitCode);
         EXPECT_EQ(run.out.rfind(row.out, 0), 0u) << run.out;
-        if (row.outEnd) {
-            EXPECT_TRUE(endsWith(run.out, row.outEnd)) << run.out;
+        if (row.outLater) {
+            EXPECT_NE(run.out.find(row.outLater), std::string::npos) << run.out;
         }
         if (row.exitCode != 0 && std::string(row.out).empty()) {
             EXPECT_EQ(run.out, "") << "the message goes to standard error";
@@ -186,5 +182,33 @@ TEST(JsonOutput, EscapesStrings)
     EXPECT_EQ(jsonString("line\r\nnext\ttab"), "\"line\\r\\nnext\\ttab\"");
     EXPECT_EQ(jsonString(std::string("\x01", 1)), "\"\\u0001\"");
     EXPECT_EQ(jsonString("ft\xC2\xB3"), "\"ft\xC2\xB3\"") << "UTF-8 passes through";
+}
+
+// The readable report shows the rows of the Results page: all 18 boxes under method 1; a
+// specified flow drops the runoff depth; method 4 also drops the length, the efficiency and the
+// infiltration group. Which boxes each mode shows is the Results page's test; this checks the
+// report asks it. Result rows are the lines indented by two blanks before the hydraulic checks.
+TEST(ResultsReport, ShowsTheRowsOfTheResultsPage)
+{
+    const struct
+    {
+        int solutionMethod, channelFlowMethod, expectedRows;
+        bool runoffDepthShown;
+    } cases[] = { { 1, 1, 18, true }, { 1, 2, 17, false }, { 4, 2, 10, false } };
+    for (const auto &row : cases) {
+        SCOPED_TRACE(row.solutionMethod * 10 + row.channelFlowMethod);
+        const SwaleProject project = validProject(row.solutionMethod, row.channelFlowMethod);
+        CalculationOutcome outcome;
+        outcome.status = CalculationOutcome::Status::Ok;
+        for (std::string &text : outcome.results)
+            text = "1";
+        const std::string report = resultsReport(project, outcome);
+        std::istringstream lines(report);
+        int rows = 0;
+        for (std::string line; std::getline(lines, line) && line != "Hydraulic checks";)
+            rows += line.rfind("  ", 0) == 0 ? 1 : 0;
+        EXPECT_EQ(rows, row.expectedRows) << report;
+        EXPECT_EQ(report.find("Runoff depth") != std::string::npos, row.runoffDepthShown);
+    }
 }
 } // namespace

@@ -8,19 +8,15 @@ PdfProbe::PdfProbe(const QString &pdfPath)
     QString html;
     if (!runPdftotext({ QStringLiteral("-bbox"), pdfPath, QStringLiteral("-") }, html))
         return;
-    static const QRegularExpression pagePattern(
-            QStringLiteral("<page width=\"([0-9.]+)\" height=\"([0-9.]+)\">"));
-    static const QRegularExpression wordPattern(QStringLiteral(
-            "<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\">"
-            "([^<]*)</word>"));
-    // Walk pages and words in document order.
-    static const QRegularExpression token(pagePattern.pattern() + QStringLiteral("|")
-                                          + wordPattern.pattern());
+    // Pages and words in document order.
+    static const QRegularExpression token(QStringLiteral(
+            "<page width=\"([0-9.]+)\" height=\"([0-9.]+)\">|<word xMin=\"([0-9.]+)\" "
+            "yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\">([^<]*)</word>"));
     auto it = token.globalMatch(html);
     while (it.hasNext()) {
         const QRegularExpressionMatch match = it.next();
         if (!match.captured(1).isEmpty()) {
-            m_pages.push_back({ match.captured(1).toDouble(), match.captured(2).toDouble() });
+            m_pages.emplace_back(match.captured(1).toDouble(), match.captured(2).toDouble());
             continue;
         }
         PdfWord word;
@@ -52,14 +48,4 @@ bool PdfProbe::runPdftotext(const QStringList &arguments, QString &output)
     }
     output = QString::fromUtf8(process.readAllStandardOutput());
     return true;
-}
-
-QString PdfProbe::pageText(int page) const
-{
-    return m_pageTexts.value(page - 1);
-}
-
-QString PdfProbe::text() const
-{
-    return m_pageTexts.join(QLatin1Char(' '));
 }
