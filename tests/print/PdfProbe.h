@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRectF>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
@@ -12,13 +13,7 @@ struct PdfWord
 {
     int page = 0; // from 1
     QRectF box; // points from the sheet's top left corner
-    QString text;
-};
-
-struct PdfPageSize
-{
-    double width = 0; // points
-    double height = 0;
+    QString text; // as pdftotext's bounding-box output writes it, with HTML escapes
 };
 
 class PdfProbe
@@ -29,12 +24,12 @@ public:
     bool isValid() const { return m_valid; }
     QString errorString() const { return m_error; }
     int pageCount() const { return static_cast<int>(m_pages.size()); }
-    const PdfPageSize &pageSize(int page) const { return m_pages[static_cast<size_t>(page - 1)]; }
+    QSizeF pageSize(int page) const { return m_pages[static_cast<size_t>(page - 1)]; } // points
 
     // The text of one page (from 1) or of all pages, with runs of blanks and line ends collapsed
     // to one blank, so that a caption and its value read as one phrase.
-    QString pageText(int page) const;
-    QString text() const;
+    QString pageText(int page) const { return m_pageTexts.value(page - 1); }
+    QString text() const { return m_pageTexts.join(QLatin1Char(' ')); }
     const std::vector<PdfWord> &words() const { return m_words; }
 
 private:
@@ -42,10 +37,7 @@ private:
 
     bool m_valid = false;
     QString m_error;
-    std::vector<PdfPageSize> m_pages;
+    std::vector<QSizeF> m_pages;
     std::vector<PdfWord> m_words;
     QStringList m_pageTexts;
 };
-
-// Collapses blanks and line ends to single blanks.
-QString simplifiedText(const QString &text);

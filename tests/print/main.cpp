@@ -3,7 +3,6 @@
 #include <QApplication>
 
 int runReportLayoutTests(int argc, char **argv);
-int runReportPdfTests(int argc, char **argv);
 int runPrintRoutineTests(int argc, char **argv);
 
 int main(int argc, char **argv)
@@ -11,7 +10,6 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     int failures = 0;
     failures += runReportLayoutTests(argc, argv);
-    failures += runReportPdfTests(argc, argv);
     failures += runPrintRoutineTests(argc, argv);
     return failures == 0 ? 0 : 1;
 }
