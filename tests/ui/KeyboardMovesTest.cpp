@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <vector>
 
 // How GoogleTest names a target in a failure message: "box(17)", "optCalculate(2)".
 void PrintTo(const MoveTarget &target, std::ostream *out)
@@ -16,34 +17,37 @@ namespace {
 
 using Kind = MoveTarget::Kind;
 
-MoveTarget box(int index)
-{
-    return { Kind::InputBox, index };
-}
-MoveTarget method(int index)
-{
-    return { Kind::SolutionMethodOption, index };
-}
-MoveTarget flow(int index)
-{
-    return { Kind::ChannelFlowOption, index };
-}
-MoveTarget output(int index)
-{
-    return { Kind::OutputBox, index };
-}
+const auto box = [](int index) { return MoveTarget { Kind::InputBox, index }; };
+const auto method = [](int index) { return MoveTarget { Kind::SolutionMethodOption, index }; };
+const auto flow = [](int index) { return MoveTarget { Kind::ChannelFlowOption, index }; };
+const auto output = [](int index) { return MoveTarget { Kind::OutputBox, index }; };
 const MoveTarget kNothing {};
 const MoveTarget kGrid { Kind::RatingCurveGrid, 0 };
 
-// One row of the movement table for given choices: where Down, Enter and Up lead.
-struct InputMoveCase
+// One row of a movement table for given choices: where Down, Enter and Up lead.
+struct MoveCase
 {
     const char *name;
     int from, solutionMethod, channelFlowMethod;
     MoveTarget down, enter, up;
 };
 
-const InputMoveCase kInputMoves[] = {
+using MoveFunction
+        = MoveTarget (*)(int box, MoveKey key, int solutionMethod, int channelFlowMethod);
+
+void expectMoves(const std::vector<MoveCase> &rows, MoveFunction move)
+{
+    for (const MoveCase &row : rows) {
+        SCOPED_TRACE(row.name);
+        const int chosenMethod = row.solutionMethod;
+        const int chosenFlow = row.channelFlowMethod;
+        EXPECT_EQ(move(row.from, MoveKey::Down, chosenMethod, chosenFlow), row.down);
+        EXPECT_EQ(move(row.from, MoveKey::Enter, chosenMethod, chosenFlow), row.enter);
+        EXPECT_EQ(move(row.from, MoveKey::Up, chosenMethod, chosenFlow), row.up);
+    }
+}
+
+const std::vector<MoveCase> kInputMoves = {
     { "job name: nothing above", 1, 1, 1, box(2), box(2), kNothing },
     { "engineer", 2, 1, 1, box(3), box(3), box(1) },
     { "date to the chosen method", 3, 3, 1, method(3), method(3), box(2) },
@@ -70,18 +74,7 @@ const InputMoveCase kInputMoves[] = {
 
 TEST(KeyboardMoves, InputBoxesFollowTheTable)
 {
-    for (const InputMoveCase &row : kInputMoves) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(KeyboardMoves::fromInputBox(row.from, MoveKey::Down, row.solutionMethod,
-                                              row.channelFlowMethod),
-                  row.down);
-        EXPECT_EQ(KeyboardMoves::fromInputBox(row.from, MoveKey::Enter, row.solutionMethod,
-                                              row.channelFlowMethod),
-                  row.enter);
-        EXPECT_EQ(KeyboardMoves::fromInputBox(row.from, MoveKey::Up, row.solutionMethod,
-                                              row.channelFlowMethod),
-                  row.up);
-    }
+    expectMoves(kInputMoves, &KeyboardMoves::fromInputBox);
 }
 
 TEST(KeyboardMoves, BoxesOutsideTheTableGoNowhere)
@@ -117,39 +110,22 @@ TEST(KeyboardMoves, EnterOnAnOptionGoesToTheFirstBoxOfTheChosenMode)
     EXPECT_EQ(KeyboardMoves::fromChannelFlowOption(MoveKey::Up, 1), kNothing);
 }
 
-struct OutputMoveCase
-{
-    const char *name;
-    int from, solutionMethod, channelFlowMethod;
-    MoveTarget forward, backward;
-};
-
-const OutputMoveCase kOutputMoves[] = {
-    { "first box: nothing above", 1, 1, 1, output(2), kNothing },
-    { "middle box", 7, 1, 1, output(8), output(6) },
-    { "runoff depth hidden for a given flow rate", 5, 1, 2, output(7), output(4) },
-    { "back over the hidden runoff depth", 7, 1, 2, output(8), output(5) },
-    { "last box round to the first", 18, 1, 1, output(1), output(17) },
-    { "method 4 starts at box 3", 3, 4, 1, output(4), kNothing },
-    { "method 4 ends at box 13, round to box 3", 13, 4, 1, output(3), output(12) },
-    { "method 3 skips the infiltration boxes", 13, 3, 1, output(16), output(12) },
-    { "method 3 round from box 17 to box 2", 17, 3, 1, output(2), output(16) },
+// Enter moves as Down does among the output boxes.
+const std::vector<MoveCase> kOutputMoves = {
+    { "first box: nothing above", 1, 1, 1, output(2), output(2), kNothing },
+    { "middle box", 7, 1, 1, output(8), output(8), output(6) },
+    { "runoff depth hidden for a given flow rate", 5, 1, 2, output(7), output(7), output(4) },
+    { "back over the hidden runoff depth", 7, 1, 2, output(8), output(8), output(5) },
+    { "last box round to the first", 18, 1, 1, output(1), output(1), output(17) },
+    { "method 4 starts at box 3", 3, 4, 1, output(4), output(4), kNothing },
+    { "method 4 ends at box 13, round to box 3", 13, 4, 1, output(3), output(3), output(12) },
+    { "method 3 skips the infiltration boxes", 13, 3, 1, output(16), output(16), output(12) },
+    { "method 3 round from box 17 to box 2", 17, 3, 1, output(2), output(2), output(16) },
 };
 
 TEST(KeyboardMoves, OutputBoxesMoveAmongTheShownOnes)
 {
-    for (const OutputMoveCase &row : kOutputMoves) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(KeyboardMoves::fromOutputBox(row.from, MoveKey::Down, row.solutionMethod,
-                                               row.channelFlowMethod),
-                  row.forward);
-        EXPECT_EQ(KeyboardMoves::fromOutputBox(row.from, MoveKey::Enter, row.solutionMethod,
-                                               row.channelFlowMethod),
-                  row.forward);
-        EXPECT_EQ(KeyboardMoves::fromOutputBox(row.from, MoveKey::Up, row.solutionMethod,
-                                               row.channelFlowMethod),
-                  row.backward);
-    }
+    expectMoves(kOutputMoves, &KeyboardMoves::fromOutputBox);
 }
 
 } // namespace

@@ -1,9 +1,15 @@
+// The scrolling pages: their bars, what they keep in view, the wheel and the touchpad.
+#include "RdcGridA.h"
 #include "ScrollingPage.h"
+#include "tvrEditBox.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QSpontaneKeyEvent>
 #include <QTest>
+#include <QWheelEvent>
 
 namespace {
 
@@ -35,6 +41,17 @@ struct PageUnderTest
     ScrollingPage viewport;
 };
 
+// Turns the wheel (or strokes the touchpad) over the middle of `target` as the platform does:
+// a spontaneous event, which travels up from the widget under the pointer until one takes it.
+void wheelOver(QWidget *target, QPoint pixelDelta, QPoint angleDelta)
+{
+    const QPointF local = QRectF(target->rect()).center();
+    QWheelEvent wheel(local, target->mapToGlobal(local), pixelDelta, angleDelta, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&wheel);
+    QApplication::instance()->notify(target, &wheel);
+}
+
 } // namespace
 
 class tst_ScrollingPage : public QObject
@@ -45,13 +62,12 @@ private slots:
     void arrangeScrollBars_data();
     void arrangeScrollBars();
     void resultsPageOpensAtItsTopWhileInputPageKeepsItsPlace();
-    void barsMoveTheContentPanel();
-    void hidingABarPutsThePanelBackAtTheEdge();
+    void barsMoveThePanelAndHidingThemPutsItBack();
     void resizeArrangesUnlessSuspended();
-    void isVisible_data();
-    void isVisible();
     void makeVisible_data();
     void makeVisible();
+    void wheelAndTouchpadScrollThePage_data();
+    void wheelAndTouchpadScrollThePage();
     void aPageDestroyedWhileFocusMovesBreaksNothing();
 };
 
@@ -118,27 +134,18 @@ void tst_ScrollingPage::resultsPageOpensAtItsTopWhileInputPageKeepsItsPlace()
     QCOMPARE(results.content->y(), 0);
 }
 
-void tst_ScrollingPage::barsMoveTheContentPanel()
-{
-    PageUnderTest page(kInputPage, QSize(300, 300), QSize(800, 900));
-    page.viewport.vscScrollWindow()->setValue(120);
-    QCOMPARE(page.content->pos(), QPoint(0, -120));
-    page.viewport.hscScrollWindow()->setValue(45);
-    QCOMPARE(page.content->pos(), QPoint(-45, -120));
-}
-
-void tst_ScrollingPage::hidingABarPutsThePanelBackAtTheEdge()
+void tst_ScrollingPage::barsMoveThePanelAndHidingThemPutsItBack()
 {
     PageUnderTest page(kInputPage, QSize(300, 300), QSize(800, 900));
     page.viewport.vscScrollWindow()->setValue(200);
     page.viewport.hscScrollWindow()->setValue(100);
+    QCOMPARE(page.content->pos(), QPoint(-100, -200));
     page.content->resize(200, 200); // a relayout made the page small
     page.viewport.ArrangeScrollBars();
     QCOMPARE(page.content->pos(), QPoint(0, 0));
     QVERIFY(!page.viewport.vscScrollWindow()->isVisibleTo(&page.viewport));
     QCOMPARE(page.viewport.vscScrollWindow()->value(), 0);
 }
-
 void tst_ScrollingPage::resizeArrangesUnlessSuspended()
 {
     PageUnderTest page(kInputPage, QSize(300, 1000), QSize(200, 900));
@@ -153,49 +160,32 @@ void tst_ScrollingPage::resizeArrangesUnlessSuspended()
     QVERIFY(page.viewport.vscScrollWindow()->isVisibleTo(&page.viewport));
 }
 
-void tst_ScrollingPage::isVisible_data()
-{
-    QTest::addColumn<int>("top");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("panelTop");
-    QTest::addColumn<bool>("visible");
-    // A viewport 100 high; the panel scrolled by 50 shows rows 50 to 149.
-    QTest::newRow("on the top row") << 50 << 20 << -50 << true;
-    QTest::newRow("one row above") << 49 << 20 << -50 << false;
-    QTest::newRow("ending on the last row") << 130 << 20 << -50 << true;
-    QTest::newRow("one row below") << 131 << 20 << -50 << false;
-    QTest::newRow("taller than the view") << 50 << 101 << -50 << false;
-}
-
-void tst_ScrollingPage::isVisible()
-{
-    QFETCH(int, top);
-    QFETCH(int, height);
-    QFETCH(int, panelTop);
-    QTEST(IsVisible(top, height, panelTop, 100), "visible");
-}
-
 void tst_ScrollingPage::makeVisible_data()
 {
     QTest::addColumn<int>("top");
     QTest::addColumn<int>("height");
     QTest::addColumn<int>("value");
-    // A viewport 100 high, the bar at 50.
-    QTest::newRow("above: to the top edge") << 20 << 20 << 20;
-    QTest::newRow("below: to the bottom edge") << 200 << 20 << 120;
-    QTest::newRow("partly below: to the bottom edge") << 140 << 20 << 60;
-    QTest::newRow("visible: stays") << 70 << 20 << 50;
+    // A viewport 100 high, the bar at 50: the panel shows rows 50 to 149. A control in view
+    // leaves the bar where it is.
+    QTest::newRow("on the top row: stays") << 50 << 20 << 50;
+    QTest::newRow("one row above: to the top edge") << 49 << 20 << 49;
+    QTest::newRow("far above: to the top edge") << 20 << 20 << 20;
+    QTest::newRow("ending on the last row: stays") << 130 << 20 << 50;
+    QTest::newRow("one row below: to the bottom edge") << 131 << 20 << 51;
+    QTest::newRow("far below: to the bottom edge") << 200 << 20 << 120;
 }
-
 void tst_ScrollingPage::makeVisible()
 {
     QFETCH(int, top);
     QFETCH(int, height);
+    QFETCH(int, value);
+    QCOMPARE(IsVisible(top, height, -50, 100), value == 50);
+    QVERIFY(!IsVisible(50, 101, -50, 100)); // taller than the view
     QScrollBar bar(Qt::Vertical);
     bar.setRange(0, 1000);
     bar.setValue(50);
     MakeVisible(top, height, -50, 100, bar);
-    QTEST(bar.value(), "value");
+    QCOMPARE(bar.value(), value);
     // Whatever moved, the control is now wholly visible.
     QVERIFY(IsVisible(top, height, -bar.value(), 100));
 }
@@ -223,6 +213,52 @@ void tst_ScrollingPage::aPageDestroyedWhileFocusMovesBreaksNothing()
     delete page;
     other->setFocus();
     QCOMPARE(QApplication::focusWidget(), other);
+}
+
+void tst_ScrollingPage::wheelAndTouchpadScrollThePage_data()
+{
+    QTest::addColumn<QString>("over");
+    QTest::addColumn<QPoint>("pixelDelta");
+    QTest::addColumn<QPoint>("angleDelta");
+    QTest::addColumn<int>("pageValue"); // -1: the desktop's lines of the bar's small step
+    QTest::addColumn<int>("gridFirstRow");
+    QTest::newRow("wheel over a box") << "box" << QPoint() << QPoint(0, -120) << -1 << 1;
+    QTest::newRow("touchpad over a label") << "label" << QPoint(0, -37) << QPoint() << 37 << 1;
+    QTest::newRow("touchpad tells pixels and angle: pixels count")
+            << "panel" << QPoint(0, -37) << QPoint(0, -120) << 37 << 1;
+    QTest::newRow("wheel over the grid scrolls the grid")
+            << "grid" << QPoint() << QPoint(0, -120) << 0 << 4;
+}
+
+void tst_ScrollingPage::wheelAndTouchpadScrollThePage()
+{
+    QFETCH(QString, over);
+    QFETCH(QPoint, pixelDelta);
+    QFETCH(QPoint, angleDelta);
+    QFETCH(int, pageValue);
+    PageUnderTest page(kInputPage, QSize(300, 300), QSize(280, 1200));
+    auto *box = new tvrEditBox(page.content);
+    box->setGeometry(10, 10, 250, 30);
+    auto *label = new QLabel(QStringLiteral("Channel Geometry"), page.content);
+    label->setGeometry(10, 50, 250, 30);
+    auto *grid = new RdcGridA(page.content);
+    grid->setGeometry(10, 90, 250, 150);
+    grid->Refresh();
+    page.viewport.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page.viewport));
+    QWidget *surface = grid->findChild<QWidget *>(QStringLiteral("pic"));
+    QWidget *target = over == QLatin1String("box") ? box->editor()
+            : over == QLatin1String("label")       ? label
+            : over == QLatin1String("grid")        ? surface
+                                                   : page.content;
+
+    wheelOver(target, pixelDelta, angleDelta);
+    QScrollBar *bar = page.viewport.vscScrollWindow();
+    if (pageValue < 0)
+        pageValue = QApplication::wheelScrollLines() * bar->singleStep();
+    QCOMPARE(bar->value(), pageValue);
+    QCOMPARE(page.content->y(), -pageValue);
+    QTEST(grid->firstVisibleRow(), "gridFirstRow");
 }
 
 QTEST_MAIN(tst_ScrollingPage)
