@@ -30,7 +30,6 @@ const MarginsCase kCases[] = {
       kScaleInches, 0.5f, 0.5f, 0.5f, 0.5f },
 };
 
-// The conversion to points is tst_PrintRoutine's, on the margins of the exported page.
 TEST(ReadPageMargins, ReadsFiveLinesWithCrossedFourthAndFifth)
 {
     TempFolder folder;
@@ -48,6 +47,15 @@ TEST(ReadPageMargins, ReadsFiveLinesWithCrossedFourthAndFifth)
         EXPECT_EQ(margins.Margin3, row.margin3);
         EXPECT_EQ(margins.Margin4, row.margin4);
     }
+}
+
+// A point is 1/72 inch, and an inch 25.4 mm.
+TEST(ReadPageMargins, MarginsInPointsFollowTheScale)
+{
+    PageMargins margins;
+    EXPECT_DOUBLE_EQ(marginInPoints(margins, 1.5f), 108.0);
+    margins.ScaleCode = kScaleMillimetres;
+    EXPECT_DOUBLE_EQ(marginInPoints(margins, 25.4f), 72.0 * double(25.4f) / 25.4);
 }
 
 } // namespace
