@@ -103,8 +103,8 @@ TEST(Sweep, AxesEndExactlyOnTheirRangeAndLogSpacingIsGeometric)
     EXPECT_NEAR(axisValue(log, 2), 100, 1e-12);
 }
 
-// Unknown symbols, an input of the other channel flow, too many points and an empty range are
-// swale-calc's rows (tests/cli/SweepCommandTest.cpp).
+// Unknown symbols are swale-calc's rows (tests/cli/CliTest.cpp), a range with equal ends the
+// Design Explorer's.
 TEST(Sweep, RefusesAxesItCannotSweep)
 {
     const SwaleProject method4 = validProject(4, 1);
@@ -114,6 +114,7 @@ TEST(Sweep, RefusesAxesItCannotSweep)
         std::vector<SweepAxis> axes;
     } cases[] = {
         { "input the method does not use", { axis("Kvu", 1, 2, 3) } },
+        { "input of the other channel flow", { axis("Qp", 1, 2, 3) } },
         { "one point", { axis("B", 1, 2, 1) } },
         { "log through zero", { axis("B", 0, 2, 3, Spacing::Logarithmic) } },
         { "infinite end", { axis("B", 1, std::numeric_limits<double>::infinity(), 3) } },
