@@ -138,10 +138,8 @@ std::unique_ptr<QChart> makeRatingChart(const RatingDrawing &r)
 
     QValueAxis *x
             = addAxis(*chart, QStringLiteral("Depth (ft)"), 0, r.maxDepth, Qt::AlignBottom, 6);
-    QValueAxis *q = addAxis(*chart, QStringLiteral("Discharge Q (cfs)"), 0, topQ * 1.05,
-                            Qt::AlignLeft, 5);
-    QValueAxis *v = addAxis(*chart, QStringLiteral("Velocity V (ft/s)"), 0, topV * 1.1,
-                            Qt::AlignRight, 5);
+    QValueAxis *q = addAxis(*chart, QStringLiteral("Q (cfs)"), 0, topQ * 1.05, Qt::AlignLeft, 5);
+    QValueAxis *v = addAxis(*chart, QStringLiteral("V (ft/s)"), 0, topV * 1.1, Qt::AlignRight, 5);
     v->setLabelsColor(ViewColour::velocity.darker(120));
     v->setTitleBrush(ViewColour::velocity.darker(120));
 
