@@ -7,9 +7,9 @@
 using Status = CalculationOutcome::Status;
 
 // Which boxes each method fills (box 13 repeating box 3) and their seven-digit texts are the
-// golden files', one example per method. A refused input and a failure on a zero roughness are
-// swale-calc's rows (tests/cli/CliTest.cpp); so is the shape of the failure below, but not its
-// depth's digits.
+// golden files', one example per method. A refused input is swale-calc's row
+// (tests/cli/CliTest.cpp); a failure on a zero roughness is the window's (tst_frmMainPages) and
+// the normal-depth traps'.
 TEST(Calculate, BeyondTheRatingCurveShowsTheDepthFoundThenAnEmptyBox)
 {
     SwaleProject beyond = validProject(3);

@@ -116,6 +116,7 @@ TEST(Sweep, RefusesAxesItCannotSweep)
         { "input the method does not use", { axis("Kvu", 1, 2, 3) } },
         { "input of the other channel flow", { axis("Qp", 1, 2, 3) } },
         { "one point", { axis("B", 1, 2, 1) } },
+        { "too many points", { axis("B", 1, 2, kMaxSweepPoints + 1) } },
         { "log through zero", { axis("B", 0, 2, 3, Spacing::Logarithmic) } },
         { "infinite end", { axis("B", 1, std::numeric_limits<double>::infinity(), 3) } },
         { "same input twice", { axis("B", 1, 2, 3), axis("B", 1, 2, 3) } },

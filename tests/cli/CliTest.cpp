@@ -1,4 +1,5 @@
 #include "CalcRunner.h"
+#include "Calculate.h"
 #include "CommandLine.h"
 #include "Files.h"
 #include "Fixtures.h"
@@ -95,12 +96,12 @@ TEST_F(SwaleCalcTest, ExitCodesAndOutputs)
           ExitResults,
           "L,n,status,L_result,e,FSe,Qp,Vr,dr,d,Wt,Ax,P,Rh,V,Id,Ab,Qip,Vm,Vs,critical_depth,"
           "critical_velocity,critical_slope,hydraulic_depth,froude,regime,shear_mean,shear_max,"
-          "specific_energy,velocity_ratio,residence_time,message\n100,0.02,ok,100," },
+          "specific_energy,velocity_ratio,residence_time,message\n100,0.02,ok,100,",
+          "\n300,0.04,ok,300," },
         { "sweep of an input the method does not use",
           { "--sweep", "A=1:2:3", good },
           ExitUsage,
           "" },
-        { "solve", { "--solve", "d=0.3", "--vary", "B=0.5:10", good }, ExitResults, "", "\n" },
         { "solve out of reach",
           { "--solve", "d=30", "--vary", "B=0.5:10", good },
           ExitTargetNotReached,
@@ -126,6 +127,20 @@ TEST_F(SwaleCalcTest, ExitCodesAndOutputs)
         }
     }
     EXPECT_EQ(readBytes(pdf).rfind("%PDF-", 0), 0u);
+}
+
+// --solve prints the input found, in full precision: the project calculated with it meets the
+// target.
+TEST_F(SwaleCalcTest, SolvePrintsTheInputThatMeetsTheTarget)
+{
+    const CalcRun run = runCalc({ "--solve", "d=0.3", "--vary", "B=0.5:10", saved() });
+    ASSERT_EQ(run.exitCode, ExitResults);
+    ASSERT_EQ(run.out.back(), '\n');
+    SwaleProject project = validProject(4, 2);
+    project.inputText[5] = run.out.substr(0, run.out.size() - 1);
+    const CalculationOutcome outcome = Calculate(project);
+    ASSERT_EQ(outcome.status, CalculationOutcome::Status::Ok) << run.out;
+    EXPECT_NEAR(outcome.record.NormalDepth, 0.3, 1e-6);
 }
 
 struct ParseCase

@@ -172,6 +172,8 @@ const LoadCase kLoads[] = {
       "line 25: \"one\" is not a whole number", ProjectFileStep::Read },
     { "row count out of range", v3File("Swale_03", { "1", "1", "40000" }), "line 27",
       ProjectFileStep::Read },
+    { "results cut short", v3File("Swale_03", { "1", "1", "0", "1", "1", "2" }),
+      "unexpected end of file after line 30", ProjectFileStep::Read },
 };
 
 TEST_F(ProjectFileTest, TheHeaderDecidesAndDamagedFilesAreRefused)

@@ -251,7 +251,11 @@ void tst_PrintRoutine::pageSetupDialogKeepsFileMarginsUnlessChanged()
     const QList<QDoubleSpinBox *> boxes = dialog.findChildren<QDoubleSpinBox *>();
     QCOMPARE(boxes.size(), 4);
     boxes[0]->setValue(30.0); // left
+    dialog.setOrientation(QPageLayout::Landscape);
+    dialog.setPageSize(QPageSize::A4);
     const ReportPageSetup changed = dialog.setup();
+    QCOMPARE(changed.orientation, QPageLayout::Landscape);
+    QCOMPARE(changed.pageSize.id(), QPageSize::A4);
     QVERIFY(changed.marginsChosen);
     QCOMPARE(changed.margins.Margin1, 30.0f);
     QCOMPARE(changed.margins.Margin3, 10.0f);

@@ -255,10 +255,18 @@ void tst_frmMain::unsavedDataQuestion()
              savedBytes(edited, m_fx.documentsFile(QStringLiteral("b.swl"))));
 }
 
-// An example opens untitled, so that Save asks for a name; the project saved under it opens
-// again with its texts.
+// The window starts untitled on the Input Data tab with both options at 1. An example opens
+// untitled, so that Save asks for a name; the project saved under it opens again whole, and New
+// puts the options back at 1.
 void tst_frmMain::exampleOpensUntitledAndSaveAsKeepsTheTexts()
 {
+    const auto startsAfresh = [this] {
+        QCOMPARE(m_fx.window->tabs()->currentIndex(), 0);
+        QCOMPARE(m_fx.window->inputPage()->GetSolutionMethod(), 1);
+        QCOMPARE(m_fx.window->inputPage()->GetChannelFlowOption(), 1);
+        QVERIFY(!m_fx.window->menus().toolbarPrint()->isEnabled());
+    };
+    startsAfresh();
     const QString examples = m_fx.programFile(QStringLiteral("Examples/"));
     m_fx.prompts.answerOpen(examples + kExamples.at(2));
     m_fx.window->menus().cmdFile_Example->trigger();
@@ -271,6 +279,7 @@ void tst_frmMain::exampleOpensUntitledAndSaveAsKeepsTheTexts()
 
     m_fx.window->txtInput(17)->setText(QString::fromUtf8("Sod, \xC3\xA9t\xC3\xA9 mix"));
     const QString path = m_fx.documentsFile(QStringLiteral("copy.swl"));
+    const SwaleProject saved = m_fx.window->currentProject();
     m_fx.prompts.answerSave(path);
     QVERIFY(m_fx.window->SaveProject());
     QCOMPARE(m_fx.prompts.records().last().kind, RecordingPrompts::Kind::SaveDialog);
@@ -282,10 +291,13 @@ void tst_frmMain::exampleOpensUntitledAndSaveAsKeepsTheTexts()
 
     m_fx.window->menus().mnuFile_New->trigger();
     QVERIFY(m_fx.window->txtInput(17)->text().isEmpty());
+    startsAfresh();
     m_fx.prompts.answerOpen(path);
     m_fx.window->menus().mnuFile_Open->trigger();
-    QCOMPARE(m_fx.window->inputPage()->GetSolutionMethod(), 3);
-    QCOMPARE(m_fx.window->txtInput(17)->text(), QString::fromUtf8("Sod, \xC3\xA9t\xC3\xA9 mix"));
+    const SwaleProject reopened = m_fx.window->currentProject();
+    QCOMPARE(reopened.solutionMethod, 3);
+    QVERIFY(reopened.inputText == saved.inputText);
+    QVERIFY(reopened.ratingCurve == saved.ratingCurve);
 }
 void tst_frmMain::saveFailures_data()
 {
@@ -360,6 +372,7 @@ void tst_frmMain::unreadableProjectLeavesTheDocument()
     }
     const QString kept = writeProject(QStringLiteral("kept.swl"));
     QVERIFY(m_fx.window->OpenDataFile(kept, OpenNormal));
+    m_fx.window->txtInput(1)->setText(QStringLiteral("Edited job"));
     const QString before = m_fx.window->windowTitle();
     if (kind == QLatin1String("pipe")) {
         QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0644), 0);
@@ -368,6 +381,7 @@ void tst_frmMain::unreadableProjectLeavesTheDocument()
         QVERIFY(damaged.open(QIODevice::WriteOnly));
         damaged.write("Swale_03\r\nonly a line\r\n");
     }
+    m_fx.prompts.answerMessage(MessageAnswer::No); // the edits stay unsaved
     if (kind == QLatin1String("deleted")) {
         m_fx.prompts.answerMessage();
         m_fx.window->menus().mnuFile_Recent[2]->trigger();
@@ -379,7 +393,9 @@ void tst_frmMain::unreadableProjectLeavesTheDocument()
     QCOMPARE(m_fx.prompts.messages().last(), message + path);
     QCOMPARE(m_fx.window->windowTitle(), before);
     QCOMPARE(m_fx.window->currentFilePath(), kept);
-    QVERIFY(!m_fx.window->isDataChanged());
+    // The edits are still there and still unsaved: Exit will ask about them.
+    QCOMPARE(m_fx.window->txtInput(1)->text(), QStringLiteral("Edited job"));
+    QVERIFY(m_fx.window->isDataChanged());
     QVERIFY(!m_fx.window->txtInput(5)->text().isEmpty());
     // A recent file that is gone keeps its entry; a file that never opened gets none.
     QCOMPARE(m_fx.window->menus().mnuFile_Recent[2]->isVisible(), kind == QLatin1String("deleted"));
