@@ -440,6 +440,9 @@ void tst_frmMain::settingsRoundTrip()
     QVERIFY(m_fx.window->menus().mnuView_ChannelPane->isChecked());
     dock->close(); // as from its own title bar: the menu follows
     QVERIFY(!m_fx.window->menus().mnuView_ChannelPane->isChecked());
+    QVERIFY(m_fx.window->close());
+    const std::string closed = readBytes(m_fx.settingsFile("WindowState.ini").toStdString());
+    QVERIFY(closed.find("ChannelPane=0\r\n") != std::string::npos);
 }
 
 // A document command leaves both pages at their top. The unsaved-data question takes the focus

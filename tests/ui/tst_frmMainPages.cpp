@@ -399,8 +399,13 @@ void tst_frmMainPages::partReadNumbersAreFlagged()
     QFETCH(QString, note);
     showActive();
     tvrEditBox *input = m_fx.window->txtInput(box);
+    input->editor()->setFocus();
     QTest::keyClicks(input->editor(), typed);
     QCOMPARE(input->text(), typed);
+    // The arrow keys along the line are the box's, not the page's.
+    QTest::keyClick(input->editor(), Qt::Key_Left);
+    QCOMPARE(input->editor()->cursorPosition(), typed.size() - 1);
+    QVERIFY(input->editor()->hasFocus());
     auto *label = m_fx.window->findChild<QLabel *>(QStringLiteral("readingNote_%1").arg(box));
     QVERIFY(label);
     QCOMPARE(label->isVisibleTo(m_fx.window.get()), !note.isEmpty());
