@@ -372,7 +372,10 @@ void tst_frmMain::unreadableProjectLeavesTheDocument()
     }
     const QString kept = writeProject(QStringLiteral("kept.swl"));
     QVERIFY(m_fx.window->OpenDataFile(kept, OpenNormal));
+    const std::string keptBytes = readBytes(kept.toStdString());
+    m_fx.window->recovery().setAutosaveInterval(20);
     m_fx.window->txtInput(1)->setText(QStringLiteral("Edited job"));
+    QTRY_VERIFY(QFileInfo::exists(m_fx.window->recovery().autosavePath()));
     const QString before = m_fx.window->windowTitle();
     if (kind == QLatin1String("pipe")) {
         QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0644), 0);
@@ -393,9 +396,11 @@ void tst_frmMain::unreadableProjectLeavesTheDocument()
     QCOMPARE(m_fx.prompts.messages().last(), message + path);
     QCOMPARE(m_fx.window->windowTitle(), before);
     QCOMPARE(m_fx.window->currentFilePath(), kept);
-    // The edits are still there and still unsaved: Exit will ask about them.
+    // The edits are still there and still unsaved: Exit will ask about them. The autosave went
+    // beside the settings, never over the user's file.
     QCOMPARE(m_fx.window->txtInput(1)->text(), QStringLiteral("Edited job"));
     QVERIFY(m_fx.window->isDataChanged());
+    QVERIFY(readBytes(kept.toStdString()) == keptBytes);
     QVERIFY(!m_fx.window->txtInput(5)->text().isEmpty());
     // A recent file that is gone keeps its entry; a file that never opened gets none.
     QCOMPARE(m_fx.window->menus().mnuFile_Recent[2]->isVisible(), kind == QLatin1String("deleted"));
