@@ -29,6 +29,7 @@ std::vector<CheckLine> hydraulicCheckLines(const HydraulicChecks &checks);
 // Typical permissible shear stress of a lining, for comparison with the boundary shear.
 struct PermissibleShear
 {
+    const char *category; // consecutive linings share it
     const char *lining;
     double shear; // lb/ft2
 };

@@ -17,7 +17,8 @@ set(example "Roadside swale - required length")
 foreach(file IN ITEMS
         bin/swale bin/swale-calc lib/swale/swale-pdf.so
         share/swale/DefWindowSize.ini share/swale/HelpImages.ini share/swale/Margins.ini
-        share/swale/help/1.html share/swale/help/2.html share/swale/help/swale-small.png
+        share/swale/help/1.html share/swale/help/2.html share/swale/help/checks.html
+        share/swale/help/swale-small.png
         "share/swale/Examples/${example}.swl"
         share/applications/org.tavro.Swale.desktop share/metainfo/org.tavro.Swale.metainfo.xml
         share/icons/hicolor/scalable/apps/swale.svg)
@@ -25,6 +26,13 @@ foreach(file IN ITEMS
         message(FATAL_ERROR "not installed: ${file}")
     endif()
 endforeach()
+
+# The checks topic holds the core's table of permissible shear in place of its marker line.
+file(READ "${root}/share/swale/help/checks.html" checksTopic)
+if(checksTopic MATCHES "permissible shear rows"
+   OR NOT checksTopic MATCHES "<td rowspan=\"2\">Rock riprap</td><td>Rock riprap, 6 in</td>")
+    message(FATAL_ERROR "the checks topic has no table of permissible shear")
+endif()
 
 # The installed calculator on the installed example: results, and the report through the module.
 execute_process(COMMAND ${root}/bin/swale-calc --pdf ${STAGE}/report.pdf
