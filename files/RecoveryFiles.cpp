@@ -1,6 +1,5 @@
 #include "RecoveryFiles.h"
 
-#include "DataFile.h"
 #include "ProjectFile.h"
 #include "SettingsFiles.h"
 
@@ -90,23 +89,14 @@ AutosaveInfo readInfo(const std::string &infoPath, const std::string &projectPat
                                 .lastModified()
                                 .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))
                                 .toStdString() };
-    DataFile file;
-    if (!OpenSettingsFile(file, infoPath))
-        return info;
-    std::string line;
-    while (file.ReadLine(line)) {
-        const size_t equals = line.find('=');
-        if (equals == std::string::npos)
-            continue;
-        const std::string key = line.substr(0, equals);
-        const std::string value = line.substr(equals + 1);
+    ReadSettingsPairs(infoPath, [&info](const std::string &key, const std::string &value) {
         if (key == kNameKey && !value.empty())
             info.name = value;
         else if (key == kOriginalKey)
             info.originalPath = value;
         else if (key == kSavedKey && !value.empty())
             info.savedAt = value;
-    }
+    });
     return info;
 }
 

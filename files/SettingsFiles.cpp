@@ -80,7 +80,9 @@ bool OpenSettingsFile(DataFile &file, const std::string &path)
     return file.OpenForRead(path);
 }
 
-bool ReadKeyValueFile(const std::string &path, KeyValues &values)
+bool ReadSettingsPairs(
+        const std::string &path,
+        const std::function<void(const std::string &key, const std::string &value)> &take)
 {
     DataFile file;
     if (!OpenSettingsFile(file, path))
@@ -88,15 +90,20 @@ bool ReadKeyValueFile(const std::string &path, KeyValues &values)
     std::string line;
     while (file.ReadLine(line)) {
         const size_t equals = line.find('=');
-        if (equals == std::string::npos)
-            continue;
-        const std::optional<int> value = settingsNumber(line.substr(equals + 1));
-        if (value)
-            values[upperCase(line.substr(0, equals))] = *value;
+        if (equals != std::string::npos)
+            take(line.substr(0, equals), line.substr(equals + 1));
     }
     const bool readToEnd = file.atEnd();
     file.Close();
     return readToEnd;
+}
+
+bool ReadKeyValueFile(const std::string &path, KeyValues &values)
+{
+    return ReadSettingsPairs(path, [&values](const std::string &key, const std::string &text) {
+        if (const std::optional<int> value = settingsNumber(text))
+            values[upperCase(key)] = *value;
+    });
 }
 
 bool ReadWindowState(const std::string &path, WindowPlacement &placement)
@@ -141,25 +148,18 @@ bool WriteWindowState(const std::string &path, WindowShowState state, int top, i
 HelpImageFiles ReadHelpImageFolders(const std::string &programFolder)
 {
     HelpImageFiles files {};
-    DataFile file;
-    if (!OpenSettingsFile(file, programFolder + kHelpImagesFile))
-        return files;
-    std::string line;
-    while (file.ReadLine(line)) {
-        const size_t equals = line.find('=');
-        if (equals == std::string::npos)
-            continue;
-        const std::string key = upperCase(trimBlanks(line.substr(0, equals)));
-        const std::string value = trimBlanks(line.substr(equals + 1));
-        if (value.empty())
-            continue;
-        for (int size = 1; size <= kHelpImageSizeCount; ++size) {
-            if (key == kHelpImageKeys[static_cast<size_t>(size)]
-                && fileExists(programFolder + value))
-                files[static_cast<size_t>(size)] = value;
-        }
-    }
-    file.Close();
+    ReadSettingsPairs(programFolder + kHelpImagesFile,
+                      [&](const std::string &rawKey, const std::string &rawValue) {
+                          const std::string key = upperCase(trimBlanks(rawKey));
+                          const std::string value = trimBlanks(rawValue);
+                          if (value.empty())
+                              return;
+                          for (int size = 1; size <= kHelpImageSizeCount; ++size) {
+                              if (key == kHelpImageKeys[static_cast<size_t>(size)]
+                                  && fileExists(programFolder + value))
+                                  files[static_cast<size_t>(size)] = value;
+                          }
+                      });
     return files;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -31,6 +32,13 @@ bool OpenSettingsFile(DataFile &file, const std::string &path);
 // Writes `lines` as the whole of the settings file `path`, replacing it only once every line
 // was written; false, leaving the old file, when it could not be written.
 bool WriteSettingsFile(const std::string &path, const std::vector<std::string> &lines);
+
+// Reads the settings file `path` as key=value lines: each line with an "=" is split at its first
+// one and handed to `take` as it stands; lines without "=" are skipped. Returns true when the
+// file was read to its end.
+bool ReadSettingsPairs(
+        const std::string &path,
+        const std::function<void(const std::string &key, const std::string &value)> &take);
 
 // Sizes in these files are in twips, 15 to the pixel.
 constexpr int kTwipsPerPixel = 15;
