@@ -188,14 +188,7 @@ void addNote(QChart &chart, const QString &text, QPointF place, const QColor &co
     label->setFont(viewFont(10, true));
     label->setBrush(colour);
     const QRectF box = label->boundingRect();
-    if (align & Qt::AlignHCenter)
-        place.rx() -= box.width() / 2;
-    else if (align & Qt::AlignRight)
-        place.rx() -= box.width();
-    if (align & Qt::AlignVCenter)
-        place.ry() -= box.height() / 2;
-    else if (align & Qt::AlignBottom)
-        place.ry() -= box.height();
+    place = alignedTopLeft(place, box.size(), align);
     // Keep the note inside the plot.
     const QRectF plot = chart.plotArea();
     place.setX(std::clamp(place.x(), plot.left() + 2,

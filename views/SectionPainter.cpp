@@ -29,16 +29,7 @@ void drawLabel(QPainter &p, const QPointF &anchor, const QString &text, Qt::Alig
 {
     const QFontMetricsF metrics(p.font(), p.device());
     const QSizeF size(metrics.horizontalAdvance(text) + 4, metrics.height());
-    QPointF topLeft = anchor;
-    if (align & Qt::AlignHCenter)
-        topLeft.rx() -= size.width() / 2;
-    else if (align & Qt::AlignRight)
-        topLeft.rx() -= size.width();
-    if (align & Qt::AlignVCenter)
-        topLeft.ry() -= size.height() / 2;
-    else if (align & Qt::AlignBottom)
-        topLeft.ry() -= size.height();
-    const QRectF box(topLeft, size);
+    const QRectF box(alignedTopLeft(anchor, size, align), size);
     p.fillRect(box, QColor(255, 255, 255, 220));
     p.drawText(box, Qt::AlignCenter, text);
 }

@@ -2,11 +2,17 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPointF>
+#include <QSizeF>
 
 // Fonts and colours of the channel drawings. Sizes are in the drawing's own units (points in a
 // report, pixels on screen), so fonts are sized in pixels: a point size would be scaled twice on
 // a high-resolution printer.
 QFont viewFont(int size, bool bold = false);
+
+// The top left of a box of `size` placed at `anchor` as `align` says (left, centred or right;
+// top, centred or bottom): the labels and notes of the drawings hang on their anchors this way.
+QPointF alignedTopLeft(QPointF anchor, const QSizeF &size, Qt::Alignment align);
 
 namespace ViewColour {
 const QColor water(0x9c, 0xc8, 0xeb);
